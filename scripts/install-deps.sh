@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Installs everything Ventrix needs to build, test and run, from Debian 12 packages only.
+set -euo pipefail
+packages=(
+  cmake ninja-build g++ pkgconf
+  qtbase5-dev libqt5serialport5-dev libqwt-qt5-dev libxlsxwriter-dev
+  libgtest-dev libbenchmark-dev
+  socat xvfb xauth fonts-dseg
+)
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+  SUDO=""
+  [ "$(id -u)" -ne 0 ] && SUDO="sudo"
+  $SUDO apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "app/AppState.h"
+#include "app/Settings.h"
+#include "display/AnalogGauge.h"
+#include "display/VirtualLcd.h"
+#include "graph/PlotAppearance.h"
+#include "link/SerialLink.h"
+#include "log/MemoryGauge.h"
+#include "platform/MainControls.h"
+#include "platform/Services.h"
+
+namespace ventrix::app {
+
+// The main window's handlers: owns the subsystems, wires every control, timer and the receive
+// event to them, runs start-up and the quit question. The window (Qt or a test) calls Form_Load
+// once, then forwards user events to the controls' Click()/selection and the services' events.
+class MainForm {
+public:
+    MainForm(AppState& state, platform::MainControls& controls, platform::Services& services);
+    MainForm(const MainForm&) = delete;
+    MainForm& operator=(const MainForm&) = delete;
+
+    void Form_Load();
+    // The window's close request. Asks "Are you sure to quit?"; cancel is set to 1 on No. On Yes
+    // the port is closed, the timers stopped, the settings saved and the program ended.
+    void Form_Unload(int& cancel);
+    // Exit and CMD_EXIT: the same question, the cancel flag starting at 1.
+    void Quit();
+
+    link::SerialLink& Link() { return m_link; }
+    display::VirtualLcd& Lcd() { return m_lcd; }
+    display::AnalogGauge& Gauge() { return m_gauge; }
+    Settings& SettingsFile() { return m_settings; }
+    graph::PlotAppearance& Appearance() { return m_appearance; }
+    log::MemoryGauge& Memory() { return m_memory; }
+
+private:
+    void WireControls();
+
+    AppState& m_state;
+    platform::MainControls& m_controls;
+    platform::Services& m_services;
+    display::VirtualLcd m_lcd;
+    display::AnalogGauge m_gauge;
+    link::SerialLink m_link;
+    log::MemoryGauge m_memory;
+    graph::PlotAppearance m_appearance;
+    Settings m_settings;
+};
+
+} // namespace ventrix::app

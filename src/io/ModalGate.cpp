@@ -1,0 +1,37 @@
+#include "io/ModalGate.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ventrix::io {
+
+void ModalGate::Dispatch(const void* source, std::function<void()> event)
+{
+    if (m_depth == 0) {
+        event();
+        return;
+    }
+    const bool known = std::any_of(
+        m_deferred.begin(), m_deferred.end(), [source](const Deferred& d) { return d.source == source; });
+    if (!known)
+        m_deferred.push_back({ source, std::move(event) });
+}
+
+void ModalGate::Forget(const void* source)
+{
+    std::erase_if(m_deferred, [source](const Deferred& d) { return d.source == source; });
+}
+
+void ModalGate::Leave()
+{
+    if (--m_depth > 0)
+        return;
+    // A deferred event may open another box; whatever arrives then is deferred again.
+    while (m_depth == 0 && !m_deferred.empty()) {
+        Deferred next = std::move(m_deferred.front());
+        m_deferred.erase(m_deferred.begin());
+        next.event();
+    }
+}
+
+} // namespace ventrix::io

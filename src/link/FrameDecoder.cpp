@@ -1,0 +1,8 @@
+#include "link/FrameDecoder.h"
+
+namespace ventrix::link {
+
+// Placeholder until decoding lands.
+bool DecodeFrame(app::AppState&) { return false; }
+
+} // namespace ventrix::link

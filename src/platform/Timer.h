@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+namespace ventrix::platform {
+
+// A form timer. Setting the interval or enabling it (again) restarts the countdown; the tick
+// handler runs every Interval() milliseconds while enabled.
+class Timer {
+public:
+    virtual ~Timer() = default;
+    virtual void SetInterval(int milliseconds) = 0;
+    virtual int Interval() const = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool Enabled() const = 0;
+    virtual void SetOnTick(std::function<void()> handler) = 0;
+};
+
+} // namespace ventrix::platform
