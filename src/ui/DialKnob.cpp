@@ -96,7 +96,9 @@ DialKnob::DialKnob(QWidget* parent)
     colours.setColor(QPalette::Light, QColor(120, 124, 130)); // frame edges
     colours.setColor(QPalette::Dark, QColor(10, 11, 12));
     setPalette(colours);
-    auto* needle = new QwtDialSimpleNeedle(QwtDialSimpleNeedle::Arrow, true, kNeedleRed, QColor(60, 62, 66));
+    // The hub is drawn here rather than by the needle, whose own hub lands off centre on screens
+    // with a device pixel ratio above 1.
+    auto* needle = new QwtDialSimpleNeedle(QwtDialSimpleNeedle::Arrow, false, kNeedleRed, QColor(60, 62, 66));
     needle->setWidth(7);
     setNeedle(needle);
 
@@ -218,6 +220,17 @@ void DialKnob::drawNeedle(QPainter* painter, const QPointF& center, double radiu
 {
     // The needle stops short of the ticks so that it never hides the scale it points at.
     QwtDial::drawNeedle(painter, center, radius * 0.84, direction, group);
+
+    const double hub = std::max(4.0, radius * 0.075);
+    QRadialGradient cap(center - QPointF(hub * 0.3, hub * 0.3), hub * 1.4);
+    cap.setColorAt(0.0, QColor(120, 124, 130));
+    cap.setColorAt(1.0, QColor(40, 42, 46));
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(QColor(12, 13, 14), std::max(1.0, hub * 0.15)));
+    painter->setBrush(cap);
+    painter->drawEllipse(center, hub, hub);
+    painter->restore();
 }
 
 QRect DialKnob::scaleInnerRect() const

@@ -14,14 +14,14 @@ namespace ventrix::ui {
 namespace {
 
 // The panel is laid out on a 420 x 150 grid and scaled to its real size.
-constexpr double kDesignWidth = 420.0;
-constexpr double kDesignHeight = 150.0;
+constexpr double kGridWidth = 420.0;
+constexpr double kGridHeight = 150.0;
 constexpr double kBezel = 9.0;
 
 struct Placement {
     const char* name;
     LcdLabel::Role role;
-    QRectF rect; // on the design grid
+    QRectF rect; // on the 420 x 150 layout grid
 };
 
 const std::array<Placement, 8> kPlacements { {
@@ -53,7 +53,7 @@ LcdPanel::LcdPanel(QWidget* parent)
 
 QSize LcdPanel::sizeHint() const
 {
-    return QSize(static_cast<int>(kDesignWidth), static_cast<int>(kDesignHeight));
+    return QSize(static_cast<int>(kGridWidth), static_cast<int>(kGridHeight));
 }
 QSize LcdPanel::minimumSizeHint() const
 {
@@ -68,8 +68,8 @@ void LcdPanel::resizeEvent(QResizeEvent* event)
 
 void LcdPanel::PlaceLabels()
 {
-    const double sx = width() / kDesignWidth;
-    const double sy = height() / kDesignHeight;
+    const double sx = width() / kGridWidth;
+    const double sy = height() / kGridHeight;
     for (const Placement& placement : kPlacements) {
         auto* label = findChild<QLabel*>(QString::fromLatin1(placement.name));
         if (label == nullptr)
@@ -84,7 +84,7 @@ void LcdPanel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF outer = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    const double scale = std::min(width() / kDesignWidth, height() / kDesignHeight);
+    const double scale = std::min(width() / kGridWidth, height() / kGridHeight);
 
     // Bezel: dark moulded plastic with a faint highlight along its top edge.
     QLinearGradient bezel(outer.topLeft(), outer.bottomLeft());
