@@ -18,7 +18,7 @@ std::string Marks(const std::array<platform::MenuItem, N>& items) // "0010": the
 
 TEST(PlotAppearanceTest, EntriesWriteTheirCodeAndKeepTheirCheckMarks)
 {
-    fakes::TestRig rig; // as designed: WIDTH3, SOLID, NONE and Grid checked, FILL not
+    fakes::TestRig rig; // the menu starts with WIDTH3, SOLID, NONE and Grid checked, FILL not
     PlotAppearance a(rig.controls, rig.graph);
     auto& c = rig.controls;
 
