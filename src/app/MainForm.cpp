@@ -1,6 +1,25 @@
 #include "app/MainForm.h"
 
+#include "link/FrameDecoder.h"
+
+#include <cstddef>
+
 namespace ventrix::app {
+
+namespace {
+constexpr const char* kTitle = "Ventrix";
+constexpr int kUnlinkIntervalMs = 15000;
+constexpr int kAnalogIntervalMs = 200;
+constexpr double kEmptyGraphAmplitude = 40000000.0;
+
+void Fill(platform::ComboBox& list, std::initializer_list<const char*> items)
+{
+    list.Clear();
+    for (const char* item : items)
+        list.AddItem(item);
+    list.SetListIndex(0);
+}
+} // namespace
 
 MainForm::MainForm(AppState& state, platform::MainControls& controls, platform::Services& services)
     : m_state(state)
@@ -11,15 +30,203 @@ MainForm::MainForm(AppState& state, platform::MainControls& controls, platform::
     , m_link(state, controls, services, m_lcd, m_gauge)
     , m_memory(state, controls.MEMORY_BAR)
     , m_appearance(controls, services.GRAPH_CWGraph)
-    , m_settings(state, controls, services.GRAPH_CWGraph, services.paths, [this] { m_memory.UpdateMemoryGauge(); })
+    , m_settings(
+          state, controls, services.GRAPH_CWGraph, services.paths, [this] { m_memory.UpdateMemoryGauge(); })
 {
     WireControls();
 }
 
-// Placeholders until start-up and shut-down land.
-void MainForm::Form_Load() { }
-void MainForm::Form_Unload(int&) { }
-void MainForm::Quit() { }
-void MainForm::WireControls() { }
+void MainForm::Form_Load()
+{
+    AppState& s = m_state;
+    platform::MainControls& c = m_controls;
+    platform::FormTimers& timers = m_services.timers;
+    platform::GraphControl& graph = m_services.GRAPH_CWGraph;
+
+    // Graph extents and the reading's first fields.
+    s.DataMax = 0.0;
+    s.DataMin = 0.0;
+    s.FunctionKind = 0;
+    s.SkipNextPlot = false;
+    s.GraphEmpty = true;
+    s.RelativeCaptured = false;
+    s.SignedCount = 4000.0;
+    s.AwaitingAbsoluteReading = true;
+    s.FunctionKind = 255;
+
+    c.MAIN_FRM.SetCaption("Ventrix 1.0");
+    m_helpFilePath = m_services.paths.HelpFile();
+
+    // The three lists beside the graph.
+    Fill(c.GRAPH_MODE_COMBO, { "Zoom", "Pan", "Cursor" });
+    s.GraphMode = 0;
+    c.GRAPH_MODE_COMBO.SetToolTip("Drag a box over the area to zoom in");
+    Fill(c.AMPLITUDE_COMBO,
+        { "AUTO Amplitude Scale", "4n", "40n", "400n", "4u", "40u", "400u", "4m", "40m", "0.4", "4", "40",
+            "400", "4K", "40K", "400K", "4M", "40M" });
+    s.AmplitudeRange = 0.0;
+    Fill(c.SAMPLE_COMBO,
+        { "AUTO Sample Scale", "10 samples", "20 samples", "50 samples", "100 samples", "200 samples",
+            "500 samples", "1000 samples" });
+    s.SampleScale = 0;
+    s.SpecialWordTable = link::kSpecialWordTable;
+
+    // Frame and reading state.
+    s.HasNewFrame = false;
+    s.FrameData.fill(0);
+    s.FrameChecksum = 0;
+    s.FrameResetMarker = 8;
+    s.UnitMultiplier = 1.0;
+    s.DecimalDivisor = 1;
+    s.CountValue = 0.0;
+    s.HasWord = false;
+    s.ModeByte = 255;
+    s.PlottedFunctionKind = 255;
+    s.UnitLabel.clear();
+    s.PlottedBaseUnit.clear();
+    s.IsAcquiring = false;
+
+    // Idle commands.
+    c.CMD_PLAY.SetEnabled(true);
+    c.CMD_STOP.SetEnabled(false);
+    c.MENU_START.SetEnabled(true);
+    c.MENU_STOP.SetEnabled(false);
+
+    s.ComPortNumber = 1;
+    m_services.MSComm1.SetSettings("4800,n,8,1");
+
+    s.GraphFilePath.clear();
+    s.GraphDialogPath.clear();
+    s.TextFilePath.clear();
+    s.TextDialogPath.clear();
+    s.SampleIntervalMs = 1000.0;
+    m_services.KNOB_ANALOG.SetPointerValue("Pointer-1", 0.0);
+    s.GaugeNeedle = 0.0;
+    s.GaugeTarget = 0.0;
+
+    timers.UNLINK_TIMER.SetInterval(kUnlinkIntervalMs);
+    timers.UNLINK_TIMER.SetEnabled(false);
+    timers.ANALOG_TIMER.SetInterval(kAnalogIntervalMs);
+    timers.ANALOG_TIMER.SetEnabled(false);
+    timers.SAMPLE_TIMER.SetEnabled(false);
+    timers.SAMPLE_TIMER.SetInterval(static_cast<int>(s.SampleIntervalMs));
+
+    // An empty sample log.
+    s.IsBufferFull = false;
+    s.PageFill = 1;
+    c.DATA_LOG_TXT.SetText("");
+    s.LogPageText.clear();
+    s.SwapPageCount = 0;
+    c.CMD_PAGEUP.SetEnabled(false);
+    c.CMD_PAGEDOWN.SetEnabled(false);
+    s.GraphStartSlot = s.PageFill;
+    s.GraphStartPage = s.SwapPageCount;
+
+    // A blank LCD.
+    c.NEG_LBL.SetVisible(false);
+    for (platform::Label* label :
+        { &c.DIGIT_LBL, &c.MODE_LBL, &c.BATTERY_LBL, &c.AUTO_LBL, &c.HOLD_LBL, &c.FUNCTION_LBL })
+        label->SetCaption("");
+    s.GraphMode = 0;
+
+    // The empty graph: sample numbers 0..10, amplitude 0..40000000 as for a reading that is not
+    // signed, no unit yet; no cursor readouts.
+    graph.SetAxisCaption(platform::GraphAxis::YAxis1, "");
+    graph.SetAxisMinimum(platform::GraphAxis::YAxis1, 0.0);
+    graph.SetAxisMaximum(platform::GraphAxis::YAxis1, kEmptyGraphAmplitude);
+    for (platform::Label* label : c.CursorLabels())
+        label->SetEnabled(false);
+    graph.SetAxisCaption(platform::GraphAxis::XAxis, "Sample No.");
+    graph.SetAxisMinimum(platform::GraphAxis::XAxis, 0.0);
+    graph.SetAxisMaximum(platform::GraphAxis::XAxis, 10.0);
+
+    m_settings.LoadSettings();
+    m_memory.UpdateMemoryGauge();
+    c.picPRINT.SetVisible(false);
+
+    DisableUnfinishedCommands();
+}
+
+void MainForm::DisableUnfinishedCommands()
+{
+    platform::MainControls& c = m_controls;
+    // Not wired yet either, and left alone here: SAMPLE_TIMER and DEBUG_TIMER have no tick
+    // handler; CMD_PAGEUP and CMD_PAGEDOWN are disabled by start-up itself.
+    for (platform::Control* control : std::initializer_list<platform::Control*> { &c.MENU_OPEN_GRAPH,
+             &c.MENU_SAVE_GRAPH, &c.MENU_SAVE_GRAPG_AS, // graph file
+             &c.Save, &c.Save_As, &c.CMD_SAVE, // log text file
+             &c.Excel, &c.CMD_EXCEL, // spreadsheet export
+             &c.MENU_PRINT_GRAPH, &c.CMD_PRINT, // printing
+             &c.CLEAR_LOG, &c.CMD_RESET, // clearing the log
+             &c.AUTO_ZOOM, &c.CMD_ZOOM, // zoom all data
+             &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO, // graph modes and scales
+             &c.HELP_CONTENT, &c.HELP_INDEX }) // help
+        control->SetEnabled(false);
+}
+
+void MainForm::Form_Unload(int& cancel)
+{
+    if (m_ended)
+        return;
+    const auto answer = m_services.dialogs.MessageBox(
+        "Are you sure to quit?", platform::MessageButtons::YesNo, platform::MessageIcon::Question, kTitle);
+    if (answer != platform::MessageResult::Yes) {
+        cancel = 1;
+        return;
+    }
+
+    if (m_services.MSComm1.IsOpen())
+        m_services.MSComm1.Close();
+    m_services.timers.UNLINK_TIMER.SetInterval(kUnlinkIntervalMs);
+    m_services.timers.UNLINK_TIMER.SetEnabled(false);
+    m_services.timers.ANALOG_TIMER.SetEnabled(false);
+    m_services.timers.SAMPLE_TIMER.SetEnabled(false);
+    m_settings.SaveSettings();
+    m_ended = true;
+    m_services.shell.EndProgram();
+}
+
+void MainForm::Quit()
+{
+    int cancel = 1;
+    Form_Unload(cancel);
+}
+
+void MainForm::ShowAbout()
+{
+    m_services.dialogs.MessageBox("Ventrix 1.0\nCompanion program for the X9-410 digital multimeter.",
+        platform::MessageButtons::Ok, platform::MessageIcon::Information, kTitle);
+}
+
+void MainForm::WireControls()
+{
+    platform::MainControls& c = m_controls;
+    platform::FormTimers& timers = m_services.timers;
+
+    c.CMD_PLAY.SetOnClick([this] { m_link.StartAcquisition(); });
+    c.MENU_START.SetOnClick([this] { m_link.StartAcquisition(); });
+    c.CMD_STOP.SetOnClick([this] { m_link.StopAcquisition(); });
+    c.MENU_STOP.SetOnClick([this] { m_link.StopAcquisition(); });
+    m_services.MSComm1.SetOnComm([this] { m_link.OnComm(); });
+    timers.UNLINK_TIMER.SetOnTick([this] { m_link.UnlinkTimerTick(); });
+    timers.ANALOG_TIMER.SetOnTick([this] { m_gauge.AnimateGauge(); });
+
+    for (std::size_t i = 0; i < c.COM_ITEMS.size(); ++i)
+        c.COM_ITEMS[i].SetOnClick([this, i] { m_settings.SelectComPort(static_cast<int>(i) + 1); });
+    for (std::size_t i = 0; i < c.SEC_ITEMS.size(); ++i)
+        c.SEC_ITEMS[i].SetOnClick([this, i] { m_settings.SelectSampleRate(kSampleRateSeconds[i]); });
+    for (std::size_t i = 0; i < c.WIDTH_ITEMS.size(); ++i)
+        c.WIDTH_ITEMS[i].SetOnClick([this, i] { m_appearance.SelectLineWidth(static_cast<int>(i)); });
+    for (std::size_t i = 0; i < c.STYLE_ITEMS.size(); ++i)
+        c.STYLE_ITEMS[i].SetOnClick([this, i] { m_appearance.SelectLineStyle(static_cast<int>(i)); });
+    for (std::size_t i = 0; i < c.POINT_ITEMS.size(); ++i)
+        c.POINT_ITEMS[i].SetOnClick([this, i] { m_appearance.SelectPointStyle(static_cast<int>(i)); });
+    c.FILL.SetOnClick([this] { m_appearance.ToggleFill(); });
+    c.Grid.SetOnClick([this] { m_appearance.ToggleGrid(); });
+
+    c.Exit.SetOnClick([this] { Quit(); });
+    c.CMD_EXIT.SetOnClick([this] { Quit(); });
+    c.HELP_ABOUT.SetOnClick([this] { ShowAbout(); });
+}
 
 } // namespace ventrix::app

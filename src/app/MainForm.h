@@ -10,6 +10,8 @@
 #include "platform/MainControls.h"
 #include "platform/Services.h"
 
+#include <filesystem>
+
 namespace ventrix::app {
 
 // The main window's handlers: owns the subsystems, wires every control, timer and the receive
@@ -35,8 +37,15 @@ public:
     graph::PlotAppearance& Appearance() { return m_appearance; }
     log::MemoryGauge& Memory() { return m_memory; }
 
+    // The help file beside the program, fixed by start-up.
+    const std::filesystem::path& HelpFilePath() const { return m_helpFilePath; }
+
 private:
     void WireControls();
+    // Commands whose handlers are not written yet are disabled at start-up, so that nothing in
+    // the window pretends to work. Each handler that lands takes its controls off this list.
+    void DisableUnfinishedCommands();
+    void ShowAbout();
 
     AppState& m_state;
     platform::MainControls& m_controls;
@@ -47,6 +56,8 @@ private:
     log::MemoryGauge m_memory;
     graph::PlotAppearance m_appearance;
     Settings m_settings;
+    std::filesystem::path m_helpFilePath;
+    bool m_ended = false; // the program has been ended: a later close request asks nothing
 };
 
 } // namespace ventrix::app

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppState.h"
+#include "app/SettingsBytes.h"
 #include "platform/AppPaths.h"
 #include "platform/GraphControl.h"
 #include "platform/MainControls.h"
@@ -22,6 +23,10 @@ public:
     void SelectSampleRate(int seconds); // SEC1..SEC60
 
 private:
+    // Puts each choice into AppState, the option menus' check marks and the graph, group by
+    // group in file order.
+    void ApplySettings(const SettingsChoice& choice);
+
     AppState& m_state;
     platform::MainControls& m_controls;
     platform::GraphControl& m_graph;

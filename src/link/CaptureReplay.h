@@ -19,8 +19,8 @@ class CaptureReplay {
 public:
     struct Frame {
         std::size_t offset; // 0-based offset of the frame's first byte in the input
-        bool refused;       // relative mode while an absolute reading was awaited
-        bool logged;        // the sampling path would log this reading
+        bool refused; // relative mode while an absolute reading was awaited
+        bool logged; // the sampling path would log this reading
         const app::AppState& state;
         const platform::MainControls& controls;
     };

@@ -7,10 +7,15 @@
 #include <map>
 #include <string>
 
+class QVariantAnimation;
+
 namespace ventrix::ui {
 
-// The analogue dial KNOB_ANALOG on a QwtDial: the needle "Pointer-1", the scale-end marks and
-// the axis range, as the gauge handlers set them.
+// The analogue dial KNOB_ANALOG on a QwtDial: the red needle "Pointer-1", the normal scale
+// between "Pointer-MIN" and "Pointer-MAX" drawn as a light arc with the overload zones beyond
+// it in red, and the axis range. "Pointer-FILLMAX" and "Pointer-FILLMIN" are only stored. Each
+// value reads back exactly as written; between writes the needle glides to its new place. It
+// never moves anything by itself and takes no input.
 class DialKnob : public QwtDial, public platform::KnobControl {
     Q_OBJECT
 public:
@@ -25,8 +30,28 @@ public:
     double AxisMaximum() const override;
     void SetAxisMaximum(double value) override;
 
+    // The needle's drawn place (it trails the written value while gliding).
+    double NeedleShown() const { return value(); }
+    // Makes the needle jump to its written place at once (for pictures and tests).
+    void FinishGlide();
+
+    QSize sizeHint() const override;
+
+protected:
+    void drawContents(QPainter* painter) const override;
+    void drawScale(QPainter* painter, const QPointF& center, double radius) const override;
+    QRect scaleInnerRect() const override;
+    void drawNeedle(QPainter* painter, const QPointF& center, double radius, double direction,
+        QPalette::ColorGroup group) const override;
+
 private:
+    void ApplyRange();
+    void GlideTo(double target);
+
     std::map<std::string, double> m_pointers;
+    double m_axisMinimum = 0.0;
+    double m_axisMaximum = 10.0;
+    QVariantAnimation* m_glide = nullptr;
 };
 
 } // namespace ventrix::ui

@@ -1,0 +1,154 @@
+#include "app/MainForm.h"
+
+#include "app/SettingsFileBytes.h"
+#include "fakes/TestRig.h"
+
+#include <gtest/gtest.h>
+
+namespace ventrix::app {
+namespace {
+
+struct MainFormTest : ::testing::Test {
+    fakes::TestRig rig;
+    MainForm form { rig.state, rig.controls, rig.services };
+};
+
+TEST_F(MainFormTest, StartUpLeavesTheWindowIdle)
+{
+    platform::MainControls& c = rig.controls;
+    const auto lcd = { &c.DIGIT_LBL, &c.MODE_LBL, &c.BATTERY_LBL, &c.AUTO_LBL, &c.HOLD_LBL, &c.FUNCTION_LBL };
+    for (platform::Label* label : lcd)
+        label->SetCaption("8888");
+    rig.state.AwaitingAbsoluteReading = false;
+    rig.state.PageFill = 17;
+    rig.state.GraphStartSlot = 17;
+    rig.knob.pointers["Pointer-1"] = 33;
+
+    form.Form_Load();
+
+    EXPECT_TRUE(rig.state.AwaitingAbsoluteReading);
+    EXPECT_EQ(rig.state.PageFill, 1);
+    EXPECT_EQ(rig.state.GraphStartSlot, 1);
+    EXPECT_EQ(rig.state.SpecialWordTable[4], "OPEn");
+    EXPECT_EQ(rig.knob.PointerValue("Pointer-1"), 0.0);
+    EXPECT_TRUE(c.CMD_PLAY.Enabled() && c.MENU_START.Enabled());
+    EXPECT_FALSE(
+        c.CMD_STOP.Enabled() || c.MENU_STOP.Enabled() || c.CMD_PAGEUP.Enabled() || c.CMD_PAGEDOWN.Enabled());
+    EXPECT_FALSE(c.NEG_LBL.Visible());
+    for (platform::Label* label : lcd)
+        EXPECT_EQ(label->Caption(), "") << label->Name();
+    for (platform::Label* label : c.CursorLabels())
+        EXPECT_FALSE(label->Enabled()) << label->Name();
+    EXPECT_FALSE(c.picPRINT.Visible());
+
+    EXPECT_EQ(rig.serial.Settings(), "4800,n,8,1");
+    EXPECT_FALSE(rig.serial.IsOpen());
+    EXPECT_EQ(rig.unlinkTimer.Interval(), 15000);
+    EXPECT_EQ(rig.sampleTimer.Interval(), 1000);
+    EXPECT_FALSE(rig.unlinkTimer.Enabled() || rig.analogTimer.Enabled() || rig.sampleTimer.Enabled());
+
+    EXPECT_EQ(rig.graph.xAxis.caption, "Sample No.");
+    EXPECT_EQ(rig.graph.yAxis.minimum, 0.0);
+    EXPECT_EQ(rig.graph.yAxis.maximum, 40000000.0);
+
+    EXPECT_EQ(c.MEMORY_BAR.Caption(), "5 Days 0 Hr 0 Min");
+    EXPECT_EQ(c.MEMORY_BAR.Value(), 100.0);
+}
+
+TEST_F(MainFormTest, StartUpFillsTheListsOnceAndAppliesSettingsBeforeTheMemoryBar)
+{
+    WriteBytes(rig.paths.SettingsFile(), { 3, 60, 2, 4, 3, 1, 0 });
+    form.Form_Load();
+    form.Form_Load();
+    const auto& c = rig.controls;
+    EXPECT_EQ(c.GRAPH_MODE_COMBO.Items(), (std::vector<std::string> { "Zoom", "Pan", "Cursor" }));
+    EXPECT_EQ(c.GRAPH_MODE_COMBO.ToolTip(), "Drag a box over the area to zoom in");
+    ASSERT_EQ(c.AMPLITUDE_COMBO.Items().size(), 18u);
+    EXPECT_EQ(c.AMPLITUDE_COMBO.Items()[9], "0.4");
+    ASSERT_EQ(c.SAMPLE_COMBO.Items().size(), 8u);
+    EXPECT_EQ(c.SAMPLE_COMBO.Items()[7], "1000 samples");
+    EXPECT_EQ(c.GRAPH_MODE_COMBO.ListIndex() + c.AMPLITUDE_COMBO.ListIndex() + c.SAMPLE_COMBO.ListIndex(), 0);
+    EXPECT_EQ(rig.state.ComPortNumber, 3);
+    EXPECT_EQ(rig.controls.MEMORY_BAR.Caption(), "300 Days 0 Hr 0 Min");
+}
+
+TEST(MainFormQuitTest, EveryWayOutAsksTheSameQuestion)
+{
+    enum class Path { CloseWindow, ExitMenu, ExitButton };
+    for (Path path : { Path::CloseWindow, Path::ExitMenu, Path::ExitButton }) {
+        for (bool yes : { false, true }) {
+            SCOPED_TRACE(std::to_string(static_cast<int>(path)) + (yes ? " Yes" : " No"));
+            fakes::TestRig rig;
+            MainForm form(rig.state, rig.controls, rig.services);
+            form.Form_Load();
+            // As if acquiring: the port open and every timer running.
+            rig.serial.Open();
+            rig.unlinkTimer.SetInterval(4000);
+            for (fakes::ManualTimer* timer : { &rig.unlinkTimer, &rig.sampleTimer, &rig.analogTimer })
+                timer->SetEnabled(true);
+            const int restarts
+                = rig.unlinkTimer.restarts + rig.sampleTimer.restarts + rig.analogTimer.restarts;
+
+            rig.dialogs.answers.push_back(yes ? platform::MessageResult::Yes : platform::MessageResult::No);
+            int cancel = 0;
+            if (path == Path::CloseWindow)
+                form.Form_Unload(cancel);
+            else if (path == Path::ExitMenu)
+                rig.controls.Exit.Click();
+            else
+                rig.controls.CMD_EXIT.Click();
+
+            ASSERT_EQ(rig.dialogs.boxes.size(), 1u);
+            const auto& box = rig.dialogs.boxes[0];
+            EXPECT_EQ(box.text, "Are you sure to quit?");
+            EXPECT_EQ(box.buttons, platform::MessageButtons::YesNo);
+            EXPECT_EQ(box.icon, platform::MessageIcon::Question);
+            EXPECT_EQ(box.title, "Ventrix");
+
+            EXPECT_EQ(cancel, path == Path::CloseWindow && !yes ? 1 : 0);
+            EXPECT_EQ(rig.serial.IsOpen(), !yes);
+            EXPECT_EQ(rig.unlinkTimer.Interval(), yes ? 15000 : 4000);
+            EXPECT_EQ(rig.unlinkTimer.Enabled(), !yes);
+            EXPECT_EQ(rig.sampleTimer.Enabled(), !yes);
+            EXPECT_EQ(rig.analogTimer.Enabled(), !yes);
+            EXPECT_EQ(rig.shell.endCount, yes ? 1 : 0);
+            if (!yes) {
+                EXPECT_EQ(
+                    rig.unlinkTimer.restarts + rig.sampleTimer.restarts + rig.analogTimer.restarts, restarts);
+                EXPECT_FALSE(std::filesystem::exists(rig.paths.SettingsFile()));
+            } else {
+                EXPECT_EQ(ReadBytes(rig.paths.SettingsFile()), (Bytes { 1, 1, 0, 0, 0, 0, 1 }));
+            }
+        }
+    }
+}
+
+TEST_F(MainFormTest, MenusReachTheirHandlersAndTheChoicesOutliveTheRun)
+{
+    form.Form_Load();
+    platform::MainControls& c = rig.controls;
+    c.COM_ITEMS[3].Click();
+    c.SEC_ITEMS[1].Click();
+    EXPECT_EQ(c.MEMORY_BAR.Caption(), "10 Days 0 Hr 0 Min");
+    c.WIDTH_ITEMS[5].Click();
+    c.STYLE_ITEMS[1].Click();
+    c.POINT_ITEMS[6].Click();
+    c.FILL.Click();
+    c.Grid.Click();
+    rig.dialogs.answers.push_back(platform::MessageResult::Yes);
+    c.CMD_EXIT.Click();
+    EXPECT_EQ(ReadBytes(rig.paths.SettingsFile()), (Bytes { 4, 2, 5, 1, 6, 1, 0 }));
+
+    // Once ended, the window's own close request asks nothing more.
+    int cancel = 0;
+    form.Form_Unload(cancel);
+    EXPECT_EQ(cancel, 0);
+
+    c.HELP_ABOUT.Click();
+    ASSERT_EQ(rig.dialogs.boxes.size(), 2u);
+    EXPECT_NE(rig.dialogs.boxes[1].text.find("X9-410"), std::string::npos);
+    EXPECT_EQ(rig.dialogs.boxes[1].icon, platform::MessageIcon::Information);
+}
+
+} // namespace
+} // namespace ventrix::app
