@@ -246,26 +246,3 @@ TEST(QtSerialPortAdapter, OpenFailsWithoutDeviceOrWithBadSettings)
     port.SetSettings("4800,n,8,1");
     EXPECT_TRUE(port.Open());
 }
-
-TEST(QtSerialPortAdapter, LineErrorsMapToEventCodes)
-{
-    struct Case {
-        QSerialPort::SerialPortError error;
-        int code;
-    };
-    const Case cases[] = {
-        { QSerialPort::BreakConditionError, SerialPort::kErBreak },
-        { QSerialPort::FramingError, SerialPort::kErFrame },
-        { QSerialPort::ParityError, SerialPort::kErRxParity },
-        { QSerialPort::WriteError, SerialPort::kErTxFull },
-        { QSerialPort::UnknownError, SerialPort::kErDcb },
-        { QSerialPort::NoError, 0 },
-        { QSerialPort::UnsupportedOperationError, 0 },
-        { QSerialPort::ReadError, 0 },
-        { QSerialPort::ResourceError, 0 },
-        { QSerialPort::DeviceNotFoundError, 0 },
-        { QSerialPort::TimeoutError, 0 },
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(QtSerialPortAdapter::EventCodeFor(c.error), c.code) << c.error;
-}

@@ -50,15 +50,3 @@ TEST(JsonObject, NumbersAreShortestAndReadBackExactly)
         EXPECT_EQ(text.find_first_not_of("0123456789.e+-"), std::string::npos) << text;
     }
 }
-
-TEST(JsonObject, BuildsNestedObjectsInOrder)
-{
-    JsonObject inner;
-    inner.Add("shown", true).Add("caption", "HOLD");
-    JsonObject outer;
-    outer.Add("offset", 9).Add("word", "OPEn").AddNull("none").Add("lcd", inner).Add("off", false);
-    EXPECT_EQ(outer.Text(),
-        "{\"offset\":9,\"word\":\"OPEn\",\"none\":null,\"lcd\":{\"shown\":true,\"caption\":\"HOLD\"},\"off\":"
-        "false}");
-    EXPECT_EQ(JsonObject().Text(), "{}");
-}
