@@ -10,14 +10,8 @@ DialKnob::DialKnob(QWidget* parent)
     setReadOnly(true);
 }
 
-void DialKnob::SetVisible(bool visible)
-{
-    setVisible(visible);
-}
-bool DialKnob::Visible() const
-{
-    return !isHidden();
-}
+void DialKnob::SetVisible(bool visible) { setVisible(visible); }
+bool DialKnob::Visible() const { return !isHidden(); }
 
 double DialKnob::PointerValue(const std::string& pointer) const
 {
@@ -32,21 +26,9 @@ void DialKnob::SetPointerValue(const std::string& pointer, double value)
         setValue(value);
 }
 
-double DialKnob::AxisMinimum() const
-{
-    return lowerBound();
-}
-void DialKnob::SetAxisMinimum(double value)
-{
-    setLowerBound(value);
-}
-double DialKnob::AxisMaximum() const
-{
-    return upperBound();
-}
-void DialKnob::SetAxisMaximum(double value)
-{
-    setUpperBound(value);
-}
+double DialKnob::AxisMinimum() const { return lowerBound(); }
+void DialKnob::SetAxisMinimum(double value) { setLowerBound(value); }
+double DialKnob::AxisMaximum() const { return upperBound(); }
+void DialKnob::SetAxisMaximum(double value) { setUpperBound(value); }
 
 } // namespace ventrix::ui
