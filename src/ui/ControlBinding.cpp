@@ -22,6 +22,7 @@
 #include <QTextCursor>
 #include <QToolBar>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <string>
@@ -151,8 +152,11 @@ bool BindTextBox(TextBox& box, QPlainTextEdit* widget)
             }
             *shown = text;
         }
-        // The caret counts bytes of UTF-8, the widget counts UTF-16 units.
-        const int position = QString::fromUtf8(text.data(), static_cast<int>(box.Caret())).size();
+        // The caret counts bytes of UTF-8 with "\r\n" line ends; the widget counts UTF-16 units
+        // and keeps one character per line end.
+        QString before = QString::fromUtf8(text.data(), static_cast<int>(box.Caret()));
+        before.remove(QLatin1Char('\r'));
+        const int position = std::min(static_cast<int>(before.size()), w->document()->characterCount() - 1);
         QTextCursor caret = w->textCursor();
         if (caret.position() != position) {
             caret.setPosition(position);
