@@ -5,6 +5,7 @@
 #include "ui/DialKnob.h"
 #include "ui/LcdPanel.h"
 #include "ui/QwtGraphAdapter.h"
+#include "ui/ToolIcons.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -28,7 +29,7 @@ namespace ventrix::ui {
 
 namespace {
 constexpr int kSpacing = 8;
-constexpr int kDialSize = 190;
+constexpr int kDialSize = 176;
 constexpr int kSidePanelWidth = 230;
 
 QString Name(const char* name)
@@ -190,27 +191,27 @@ void MainWindow::BuildToolBar()
     bar->setFloatable(false);
     bar->setIconSize(QSize(24, 24));
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    auto add = [&](const char* name, QStyle::StandardPixmap icon) {
+    auto add = [&](const char* name, const QIcon& icon) {
         auto* button = new QToolButton(bar);
         button->setObjectName(Name(name));
-        button->setIcon(style()->standardIcon(icon));
+        button->setIcon(icon);
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setAutoRaise(true);
         button->setMinimumWidth(64);
         bar->addWidget(button);
     };
-    add("CMD_PLAY", QStyle::SP_MediaPlay);
-    add("CMD_STOP", QStyle::SP_MediaStop);
+    add("CMD_PLAY", ToolIcons::Play());
+    add("CMD_STOP", ToolIcons::Stop());
     bar->addSeparator();
-    add("CMD_SAVE", QStyle::SP_DialogSaveButton);
-    add("CMD_EXCEL", QStyle::SP_FileDialogDetailedView);
-    add("CMD_PRINT", QStyle::SP_FileDialogContentsView);
+    add("CMD_SAVE", style()->standardIcon(QStyle::SP_DialogSaveButton));
+    add("CMD_EXCEL", style()->standardIcon(QStyle::SP_FileDialogDetailedView));
+    add("CMD_PRINT", style()->standardIcon(QStyle::SP_FileDialogContentsView));
     bar->addSeparator();
-    add("CMD_ZOOM", QStyle::SP_TitleBarMaxButton);
+    add("CMD_ZOOM", ToolIcons::ZoomAll());
     auto* spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);
-    add("CMD_EXIT", QStyle::SP_DialogCloseButton);
+    add("CMD_EXIT", ToolIcons::Exit());
 }
 
 QWidget* MainWindow::BuildMeterGroup()
@@ -288,7 +289,7 @@ QWidget* MainWindow::BuildGraphGroup()
     // Cursor readouts: a title and its value on each row, cursor 1, cursor 2, then the spans.
     auto* cursors = new QGridLayout;
     cursors->setHorizontalSpacing(6);
-    cursors->setVerticalSpacing(3);
+    cursors->setVerticalSpacing(2);
     const std::array<std::pair<const char*, const char*>, 6> rows { { { "X1_LBL", "X1_VAL_LBL" },
         { "Y1_LBL", "Y1_VAL_LBL" }, { "X2_LBL", "X2_VAL_LBL" }, { "Y2_LBL", "Y2_VAL_LBL" },
         { "X1_X2_LBL", "X1_X2_VAL_LBL" }, { "Y1_Y2_LBL", "Y1_Y2_VAL_LBL" } } };
@@ -313,7 +314,7 @@ QWidget* MainWindow::BuildGraphGroup()
     layout->addWidget(side, 0);
 
     m_graph = new QwtGraphAdapter(group);
-    m_graph->setMinimumSize(420, 260);
+    m_graph->setMinimumSize(420, 220);
     layout->addWidget(m_graph, 1);
     return group;
 }
