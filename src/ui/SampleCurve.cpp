@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <qwt_clipper.h>
+#include <qwt_painter.h>
 #include <qwt_scale_map.h>
 
 namespace ventrix::ui {
@@ -54,8 +55,10 @@ void SampleCurve::draw(
     if (m_pen.style() != Qt::NoPen) {
         painter->setPen(m_pen);
         painter->setBrush(Qt::NoBrush);
+        // Qwt's polyline splits long runs into short pieces: wide and dashed pens stroke many
+        // times faster that way on raster devices.
         if (line.size() > 1)
-            painter->drawPolyline(QwtClipper::clipPolygonF(clip, line, false));
+            QwtPainter::drawPolyline(painter, QwtClipper::clipPolygonF(clip, line, false));
         else
             painter->drawPoint(line.first());
     }
