@@ -12,12 +12,14 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
@@ -98,7 +100,11 @@ MainWindow::MainWindow(platform::MainControls& controls, io::ModalGate& gate, QW
     setCentralWidget(scroll);
 
     BindControls();
-    resize(1280, 800);
+    // The designed size, or the whole screen when it is smaller.
+    QSize size(1280, 800);
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableGeometry().size());
+    resize(size);
 }
 
 MainWindow::~MainWindow()

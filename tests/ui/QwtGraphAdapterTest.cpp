@@ -74,12 +74,11 @@ TEST(QwtGraphAdapterTest, PointStyleCodesSelectSymbols)
 TEST(QwtGraphAdapterTest, WidthFillAndGridReadBack)
 {
     QwtGraphAdapter graph;
-    for (int width = 0; width <= 5; ++width) {
-        graph.SetLineWidth(width);
-        EXPECT_EQ(graph.LineWidth(), width);
-        EXPECT_EQ(graph.Curve().Pen().width(), width);
-        EXPECT_TRUE(graph.Curve().Pen().isCosmetic());
-    }
+    graph.SetLineWidth(0);
+    EXPECT_EQ(graph.Curve().Pen().width(), 0) << "width 0 is the thinnest line";
+    EXPECT_TRUE(graph.Curve().Pen().isCosmetic());
+    graph.SetLineWidth(-1);
+    EXPECT_EQ(graph.LineWidth(), 0);
     graph.SetFillToBase(true);
     EXPECT_TRUE(graph.FillToBase());
     EXPECT_EQ(graph.Curve().Brush().color(), QwtGraphAdapter::kFillColour);
