@@ -74,4 +74,20 @@ QIcon ToolIcons::Exit()
     });
 }
 
+QIcon ToolIcons::Application()
+{
+    return Draw([](QPainter& p) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(0x2b, 0x2f, 0x33));
+        p.drawRoundedRect(QRectF(2, 2, 44, 44), 9, 9);
+        p.setPen(QPen(QColor(0xe8, 0xe2, 0x7a), 3.5, Qt::SolidLine, Qt::RoundCap));
+        p.drawArc(QRectF(8, 10, 32, 32), 20 * 16, 140 * 16);
+        p.setPen(QPen(QColor(0x4c, 0xc3, 0x6a), 3.5, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(QPointF(24, 28), QPointF(34, 15));
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(0xd8, 0xdc, 0xe0));
+        p.drawEllipse(QPointF(24, 28), 3.5, 3.5);
+    });
+}
+
 } // namespace ventrix::ui

@@ -13,6 +13,7 @@
 #include "ui/QtDialogs.h"
 #include "ui/QtShell.h"
 #include "ui/QwtGraphAdapter.h"
+#include "ui/ToolIcons.h"
 #include "ui/UnavailablePrinter.h"
 
 #include <QApplication>
@@ -28,6 +29,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("Ventrix"));
     QApplication::setApplicationVersion(QStringLiteral("1.0"));
     ui::PanelStyle::Apply(application);
+    QApplication::setWindowIcon(ui::ToolIcons::Application());
 
     io::ModalGate gate;
     io::QtSerialPortAdapter serial(gate);
