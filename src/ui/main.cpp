@@ -1,8 +1,56 @@
+#include "app/AppState.h"
+#include "app/MainForm.h"
+#include "io/ModalGate.h"
+#include "io/QtSerialPortAdapter.h"
+#include "io/StandardAppPaths.h"
+#include "io/SystemClock.h"
+#include "io/UnavailableSpreadsheet.h"
+#include "platform/MainControls.h"
+#include "platform/Services.h"
+#include "ui/DialKnob.h"
+#include "ui/MainWindow.h"
+#include "ui/PanelStyle.h"
+#include "ui/QtDialogs.h"
+#include "ui/QtShell.h"
+#include "ui/QwtGraphAdapter.h"
+#include "ui/ToolIcons.h"
+#include "ui/UnavailablePrinter.h"
+
 #include <QApplication>
 
-// Placeholder until the main window lands.
+using namespace ventrix;
+
+// The composition root: builds the adapters, the window and the form, runs start-up, and hands
+// control to the event loop.
 int main(int argc, char** argv)
 {
-    QApplication app(argc, argv);
-    return 0;
+    QApplication application(argc, argv);
+    // No organisation name: the data directory is then ".../Ventrix" itself.
+    QApplication::setApplicationName(QStringLiteral("Ventrix"));
+    QApplication::setApplicationVersion(QStringLiteral("1.0"));
+    ui::PanelStyle::Apply(application);
+    QApplication::setWindowIcon(ui::ToolIcons::Application());
+
+    io::ModalGate gate;
+    io::QtSerialPortAdapter serial(gate);
+    io::SystemClock clock;
+    io::StandardAppPaths paths;
+    io::UnavailableSpreadsheet spreadsheet;
+    ui::UnavailablePrinter printer;
+    ui::QtShell shell;
+
+    app::AppState state;
+    platform::MainControls controls;
+    ui::MainWindow window(controls, gate);
+    ui::QtDialogs dialogs(gate, &window);
+
+    platform::Services services { serial, window.Timers(), clock, dialogs, window.Graph(), window.Knob(),
+        spreadsheet, printer, paths, shell };
+    app::MainForm form(state, controls, services);
+    window.SetCloseHandler([&form](int& cancel) { form.Form_Unload(cancel); });
+    shell.SetOnEnd([&window] { window.CloseWithoutAsking(); });
+
+    form.Form_Load();
+    window.show();
+    return QApplication::exec();
 }

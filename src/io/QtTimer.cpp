@@ -1,0 +1,56 @@
+#include "io/QtTimer.h"
+
+#include <utility>
+
+namespace ventrix::io {
+
+QtTimer::QtTimer(ModalGate& gate, const QString& name, QObject* parent)
+    : QObject(parent)
+    , m_gate(gate)
+{
+    setObjectName(name);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &QtTimer::OnTimeout);
+}
+
+QtTimer::~QtTimer()
+{
+    m_gate.Forget(this);
+}
+
+void QtTimer::SetInterval(int milliseconds)
+{
+    m_interval = milliseconds;
+    Restart();
+}
+
+void QtTimer::SetEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    Restart();
+}
+
+void QtTimer::SetOnTick(std::function<void()> handler)
+{
+    m_onTick = std::move(handler);
+}
+
+void QtTimer::Restart()
+{
+    // A tick held back by an open box belongs to the countdown that is being replaced.
+    m_gate.Forget(this);
+    if (m_enabled && m_interval > 0)
+        m_timer.start(m_interval);
+    else
+        m_timer.stop();
+}
+
+void QtTimer::OnTimeout()
+{
+    m_gate.Dispatch(this, [this] {
+        if (m_enabled && m_onTick)
+            m_onTick();
+    });
+}
+
+} // namespace ventrix::io

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Spreadsheet.h"
+
+namespace ventrix::io {
+
+// Stands in for the spreadsheet writer until it is built: no workbook can be made, so every
+// export ends at Create() on its normal failure path. Writes nothing.
+class UnavailableSpreadsheet : public platform::Spreadsheet {
+public:
+    bool Create() override { return false; }
+    void SetStandardWidth(double) override { }
+    bool SetCellText(const std::string&, const std::string&) override { return false; }
+    void SetBold(const std::string&) override { }
+    void Finish() override { }
+};
+
+} // namespace ventrix::io

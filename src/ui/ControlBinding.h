@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Control.h"
+
+class QObject;
+
+namespace ventrix::ui {
+
+// Keeps one control model and the Qt object of the same name in step. The model is the truth:
+// its observer copies caption, visibility, enabled state, tool tip, check mark, list items and
+// selection, text and caret, or gauge value into the widget, menu or action; a user action on
+// the widget becomes one call into the model (Click(), SetListIndex()) and the widget is then
+// copied from the model again, so a refused change never shows. Bind() returns false when the
+// model and the object do not fit together (nothing is bound then).
+class ControlBinding {
+public:
+    static bool Bind(platform::Control& control, QObject* target);
+    // Removes the observer so that a model outliving its window no longer reaches it.
+    static void Unbind(platform::Control& control) { control.SetObserver(nullptr); }
+};
+
+} // namespace ventrix::ui

@@ -1,0 +1,156 @@
+#include "ui/QtDialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStringList>
+
+namespace ventrix::ui {
+
+using platform::MessageButtons;
+using platform::MessageIcon;
+using platform::MessageResult;
+
+namespace {
+QMessageBox::Icon ToQtIcon(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    case MessageIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString FromUtf8(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+// Print dialog flags the handlers pass: no "selection" range, no page numbers, no "print to
+// file" check box.
+constexpr int kNoSelection = 0x4;
+constexpr int kNoPageNumbers = 0x8;
+constexpr int kHidePrintToFile = 0x100000;
+constexpr int kOverwritePrompt = 0x2;
+} // namespace
+
+QtDialogs::QtDialogs(io::ModalGate& gate, QWidget* parent)
+    : m_gate(gate)
+    , m_parent(parent)
+{
+}
+
+MessageResult QtDialogs::MessageBox(
+    const std::string& text, MessageButtons buttons, MessageIcon icon, const std::string& title)
+{
+    QMessageBox box(ToQtIcon(icon), FromUtf8(title), FromUtf8(text), QMessageBox::NoButton, m_parent);
+    if (buttons == MessageButtons::YesNo) {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        box.setEscapeButton(QMessageBox::No);
+    } else {
+        box.setStandardButtons(QMessageBox::Ok);
+    }
+    const int answer = m_gate.Hold([&box] { return box.exec(); });
+    if (buttons == MessageButtons::Ok)
+        return MessageResult::Ok;
+    return answer == QMessageBox::Yes ? MessageResult::Yes : MessageResult::No;
+}
+
+std::optional<std::string> QtDialogs::ShowOpen(const platform::FileDialogRequest& request)
+{
+    return ShowFile(request, false);
+}
+
+std::optional<std::string> QtDialogs::ShowSave(const platform::FileDialogRequest& request)
+{
+    return ShowFile(request, true);
+}
+
+std::optional<std::string> QtDialogs::ShowFile(const platform::FileDialogRequest& request, bool save)
+{
+    QFileDialog dialog(m_parent, FromUtf8(request.title));
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    const QString filter = ToQtFilter(request.filter);
+    if (!filter.isEmpty())
+        dialog.setNameFilters(filter.split(QStringLiteral(";;")));
+    if (save)
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, (request.flags & kOverwritePrompt) == 0);
+    const QFileInfo start(StartPath(request));
+    if (!request.fileName.empty()) {
+        dialog.setDirectory(start.absolutePath());
+        dialog.selectFile(start.fileName());
+    } else if (!request.initialDirectory.empty()) {
+        dialog.setDirectory(start.absoluteFilePath());
+    }
+    const int accepted = m_gate.Hold([&dialog] { return dialog.exec(); });
+    if (accepted != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return QDir::toNativeSeparators(dialog.selectedFiles().first()).toStdString();
+}
+
+std::optional<platform::PrintDialogResult> QtDialogs::ShowPrint(int flags)
+{
+    QPrinter printer;
+    QPrintDialog dialog(&printer, m_parent);
+    QAbstractPrintDialog::PrintDialogOptions options = dialog.options();
+    if ((flags & kNoSelection) != 0)
+        options &= ~QAbstractPrintDialog::PrintSelection;
+    if ((flags & kNoPageNumbers) != 0)
+        options &= ~QAbstractPrintDialog::PrintPageRange;
+    if ((flags & kHidePrintToFile) != 0)
+        options &= ~QAbstractPrintDialog::PrintToFile;
+    dialog.setOptions(options);
+    const int accepted = m_gate.Hold([&dialog] { return dialog.exec(); });
+    if (accepted != QDialog::Accepted)
+        return std::nullopt;
+    platform::PrintDialogResult result;
+    result.fromPage = printer.fromPage();
+    result.toPage = printer.toPage();
+    result.copies = printer.copyCount();
+    result.orientation = printer.pageLayout().orientation() == QPageLayout::Landscape ? 2 : 1;
+    return result;
+}
+
+QString QtDialogs::ToQtFilter(const std::string& filter)
+{
+    const QStringList parts = FromUtf8(filter).split(QLatin1Char('|'));
+    QStringList entries;
+    for (int i = 0; i + 1 < parts.size(); i += 2) {
+        QString description = parts[i].trimmed();
+        const QString patterns
+            = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts).join(QLatin1Char(' '));
+        // Qt reads the patterns from the last parentheses, so a description that already shows
+        // them in parentheses loses that part before the real patterns are appended.
+        const int open = description.lastIndexOf(QLatin1Char('('));
+        if (open >= 0 && description.endsWith(QLatin1Char(')')))
+            description = description.left(open).trimmed();
+        if (description.isEmpty())
+            description = patterns;
+        entries << QStringLiteral("%1 (%2)").arg(description, patterns);
+    }
+    return entries.join(QStringLiteral(";;"));
+}
+
+QString QtDialogs::StartPath(const platform::FileDialogRequest& request)
+{
+    const QString directory = FromUtf8(request.initialDirectory);
+    const QString file = FromUtf8(request.fileName);
+    if (file.isEmpty())
+        return directory;
+    if (directory.isEmpty() || QFileInfo(file).isAbsolute())
+        return file;
+    return QDir(directory).filePath(file);
+}
+
+} // namespace ventrix::ui

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "io/ModalGate.h"
+#include "platform/Dialogs.h"
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+namespace ventrix::ui {
+
+// Message boxes, file dialogs and the print dialog on QMessageBox, QFileDialog and QPrintDialog,
+// owned by the main window. Every box runs under the modal gate, so timer ticks and receive
+// events wait until it is answered. Only adapts arguments and results; decides nothing.
+class QtDialogs : public platform::Dialogs {
+public:
+    explicit QtDialogs(io::ModalGate& gate, QWidget* parent = nullptr);
+
+    void SetParent(QWidget* parent) { m_parent = parent; }
+
+    platform::MessageResult MessageBox(const std::string& text, platform::MessageButtons buttons,
+        platform::MessageIcon icon, const std::string& title) override;
+    std::optional<std::string> ShowOpen(const platform::FileDialogRequest& request) override;
+    std::optional<std::string> ShowSave(const platform::FileDialogRequest& request) override;
+    std::optional<platform::PrintDialogResult> ShowPrint(int flags) override;
+
+    // "Graph Files|*.gph|All|*.*" -> "Graph Files (*.gph);;All (*.*)". Several patterns of one
+    // entry ("*.txt;*.log") become space separated; an empty filter gives an empty string.
+    static QString ToQtFilter(const std::string& filter);
+    // The path a file dialog starts at: the file name inside the initial directory, or either
+    // alone when the other is empty; an absolute file name stands by itself.
+    static QString StartPath(const platform::FileDialogRequest& request);
+
+private:
+    std::optional<std::string> ShowFile(const platform::FileDialogRequest& request, bool save);
+
+    io::ModalGate& m_gate;
+    QPointer<QWidget> m_parent;
+};
+
+} // namespace ventrix::ui

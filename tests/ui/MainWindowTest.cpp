@@ -1,0 +1,313 @@
+#include "ui/MainWindow.h"
+#include "app/MainForm.h"
+#include "fakes/TestRig.h"
+#include "io/EventLoopHelpers.h"
+#include "io/ModalGate.h"
+#include "ui/DialKnob.h"
+#include "ui/QtShell.h"
+#include "ui/QwtGraphAdapter.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace ventrix::ui {
+namespace {
+
+struct WindowRig {
+    io::ModalGate gate;
+    platform::MainControls controls;
+    MainWindow window { controls, gate };
+
+    template <typename T = QObject> T* Find(const char* name)
+    {
+        return window.findChild<T*>(QString::fromLatin1(name));
+    }
+};
+
+TEST(MainWindowTest, EveryNamedControlHasItsWidget)
+{
+    WindowRig rig;
+    EXPECT_TRUE(rig.window.UnboundControls().empty())
+        << "first unbound: " << (rig.window.UnboundControls().empty() ? "" : rig.window.UnboundControls()[0]);
+    int found = 0;
+    rig.controls.ForEach([&](platform::Control& control) {
+        const QString name = QString::fromStdString(control.Name());
+        const bool present
+            = rig.window.objectName() == name || rig.window.findChild<QObject*>(name) != nullptr;
+        EXPECT_TRUE(present) << control.Name();
+        found += present ? 1 : 0;
+    });
+    EXPECT_GT(found, 90);
+    EXPECT_NE(rig.Find<DialKnob>("KNOB_ANALOG"), nullptr);
+    EXPECT_NE(rig.Find<QwtGraphAdapter>("GRAPH_CWGraph"), nullptr);
+    EXPECT_NE(rig.Find<QScrollBar>("HScroll"), nullptr);
+    EXPECT_NE(rig.Find<QScrollBar>("VScroll"), nullptr);
+    for (const char* timer : { "UNLINK_TIMER", "SAMPLE_TIMER", "ANALOG_TIMER", "DEBUG_TIMER" })
+        EXPECT_NE(rig.Find(timer), nullptr) << timer;
+    // Check items of the option menu show a check box.
+    for (const char* checkable : { "COM1", "SEC60", "WIDTH3", "DASH_DOT", "EDIAMOND", "FILL", "Grid" })
+        EXPECT_TRUE(rig.Find<QAction>(checkable)->isCheckable()) << checkable;
+    EXPECT_FALSE(rig.Find<QAction>("MENU_START")->isCheckable());
+}
+
+TEST(MainWindowTest, ModelChangesShowInTheirWidgets)
+{
+    WindowRig rig;
+    auto& c = rig.controls;
+
+    c.MAIN_FRM.SetCaption("Ventrix 1.0");
+    EXPECT_EQ(rig.window.windowTitle(), "Ventrix 1.0");
+
+    c.CMD_STOP.SetEnabled(false);
+    EXPECT_FALSE(rig.Find<QToolButton>("CMD_STOP")->isEnabled());
+    EXPECT_EQ(rig.Find<QToolButton>("CMD_PLAY")->text(), "Play");
+    EXPECT_EQ(rig.Find<QToolButton>("CMD_PLAY")->toolTip(), "Start acquisition");
+
+    c.MENU_STOP.SetEnabled(false);
+    EXPECT_FALSE(rig.Find<QAction>("MENU_STOP")->isEnabled());
+    EXPECT_EQ(rig.Find<QAction>("MENU_SAVE_GRAPG_AS")->text(), "Save Graph As...");
+    EXPECT_EQ(rig.Find<QMenu>("option")->title(), "&Option");
+    c.COM.SetEnabled(false);
+    EXPECT_FALSE(rig.Find<QMenu>("COM")->menuAction()->isEnabled());
+
+    EXPECT_TRUE(rig.Find<QAction>("WIDTH3")->isChecked()) << "check marks of the design";
+    c.WIDTH_ITEMS[3].SetChecked(false);
+    c.WIDTH_ITEMS[1].SetChecked(true);
+    EXPECT_FALSE(rig.Find<QAction>("WIDTH3")->isChecked());
+    EXPECT_TRUE(rig.Find<QAction>("WIDTH1")->isChecked());
+
+    c.NEG_LBL.SetVisible(false);
+    EXPECT_TRUE(rig.Find<QLabel>("NEG_LBL")->isHidden());
+    c.DIGIT_LBL.SetCaption("1.234");
+    EXPECT_EQ(rig.Find<QLabel>("DIGIT_LBL")->text(), "1.234");
+    c.X1_VAL_LBL.SetEnabled(false);
+    EXPECT_FALSE(rig.Find<QLabel>("X1_VAL_LBL")->isEnabled());
+    EXPECT_EQ(rig.Find<QLabel>("X1_X2_LBL")->text(), "X1-X2");
+
+    c.AMPLITUDE_COMBO.AddItem("AUTO Amplitude Scale");
+    c.AMPLITUDE_COMBO.AddItem("4n");
+    c.AMPLITUDE_COMBO.SetListIndex(1);
+    auto* amplitude = rig.Find<QComboBox>("AMPLITUDE_COMBO");
+    ASSERT_EQ(amplitude->count(), 2);
+    EXPECT_EQ(amplitude->itemText(1), "4n");
+    EXPECT_EQ(amplitude->currentIndex(), 1);
+    c.AMPLITUDE_COMBO.Clear();
+    EXPECT_EQ(amplitude->count(), 0);
+
+    c.MEMORY_BAR.SetValue(42.6);
+    c.MEMORY_BAR.SetCaption("7199 Min");
+    auto* memory = rig.Find<QProgressBar>("MEMORY_BAR");
+    EXPECT_EQ(memory->value(), 43);
+    EXPECT_EQ(memory->text(), "7199 Min");
+
+    auto* log = rig.Find<QPlainTextEdit>("DATA_LOG_TXT");
+    EXPECT_TRUE(log->isReadOnly());
+    c.DATA_LOG_TXT.SetText("10:00:00 AM        1.234 V\r\n");
+    c.DATA_LOG_TXT.SetText("10:00:00 AM        1.234 V\r\n10:00:01 AM        25.0 °C\r\n");
+    c.DATA_LOG_TXT.SetCaret(c.DATA_LOG_TXT.Text().size());
+    EXPECT_EQ(log->toPlainText().toStdString(), "10:00:00 AM        1.234 V\n10:00:01 AM        25.0 °C\n");
+    EXPECT_EQ(log->textCursor().position(), log->toPlainText().size())
+        << "caret counted in bytes, shown in chars";
+    c.DATA_LOG_TXT.SetText("");
+    EXPECT_TRUE(log->toPlainText().isEmpty());
+
+    // A tool bar button is hidden through its tool bar action.
+    c.CMD_EXCEL.SetVisible(false);
+    auto* excel = rig.Find<QToolButton>("CMD_EXCEL");
+    auto* bar = qobject_cast<QToolBar*>(excel->parentWidget());
+    ASSERT_NE(bar, nullptr);
+    bool hidden = false;
+    for (QAction* action : bar->actions())
+        hidden |= bar->widgetForAction(action) == excel && !action->isVisible();
+    EXPECT_TRUE(hidden);
+}
+
+TEST(MainWindowTest, UserActionsReachTheModels)
+{
+    WindowRig rig;
+    auto& c = rig.controls;
+    int plays = 0;
+    c.CMD_PLAY.SetOnClick([&] { ++plays; });
+    rig.Find<QToolButton>("CMD_PLAY")->click();
+    EXPECT_EQ(plays, 1);
+
+    int pageUps = 0;
+    c.CMD_PAGEUP.SetOnClick([&] { ++pageUps; });
+    rig.Find<QAbstractButton>("CMD_PAGEUP")->click();
+    EXPECT_EQ(pageUps, 1);
+
+    // The model decides the check marks: an exclusive group handler, as the option menu has.
+    auto checkOnly = [&](std::size_t chosen) {
+        for (std::size_t i = 0; i < c.COM_ITEMS.size(); ++i)
+            c.COM_ITEMS[i].SetChecked(i == chosen);
+    };
+    for (std::size_t i = 0; i < c.COM_ITEMS.size(); ++i)
+        c.COM_ITEMS[i].SetOnClick([&checkOnly, i] { checkOnly(i); });
+    rig.Find<QAction>("COM3")->trigger();
+    EXPECT_TRUE(c.COM_ITEMS[2].Checked());
+    EXPECT_FALSE(c.COM_ITEMS[0].Checked());
+    EXPECT_FALSE(rig.Find<QAction>("COM1")->isChecked());
+    rig.Find<QAction>("COM3")->trigger(); // clicking the checked entry keeps it checked
+    EXPECT_TRUE(rig.Find<QAction>("COM3")->isChecked());
+
+    // An entry without a handler does not get a check mark from Qt alone.
+    rig.Find<QAction>("FILL")->trigger();
+    EXPECT_FALSE(c.FILL.Checked());
+    EXPECT_FALSE(rig.Find<QAction>("FILL")->isChecked());
+
+    int exits = 0;
+    c.Exit.SetOnClick([&] { ++exits; });
+    rig.Find<QAction>("Exit")->trigger();
+    EXPECT_EQ(exits, 1);
+
+    c.GRAPH_MODE_COMBO.AddItem("Zoom");
+    c.GRAPH_MODE_COMBO.AddItem("Pan");
+    c.GRAPH_MODE_COMBO.AddItem("Cursor");
+    c.GRAPH_MODE_COMBO.SetListIndex(0);
+    int selections = 0;
+    c.GRAPH_MODE_COMBO.SetOnSelect([&] { ++selections; });
+    auto* mode = rig.Find<QComboBox>("GRAPH_MODE_COMBO");
+    mode->setCurrentIndex(2);
+    emit mode->activated(2); // what a user's choice raises
+    EXPECT_EQ(c.GRAPH_MODE_COMBO.ListIndex(), 2);
+    EXPECT_EQ(selections, 1);
+    mode->setCurrentIndex(0); // a programmatic change is not a user's choice
+    EXPECT_EQ(c.GRAPH_MODE_COMBO.ListIndex(), 2);
+}
+
+TEST(MainWindowTest, AModelThatRefusesAChangeIsShownAsItStays)
+{
+    WindowRig rig;
+    auto& combo = rig.controls.SAMPLE_COMBO;
+    combo.AddItem("AUTO Sample Scale");
+    combo.AddItem("10 samples");
+    combo.SetListIndex(0);
+    // A handler that puts the list back, as a list locked during some state would.
+    combo.SetOnSelect([&] { combo.SetListIndex(0); });
+    auto* widget = rig.Find<QComboBox>("SAMPLE_COMBO");
+    widget->setCurrentIndex(1);
+    emit widget->activated(1);
+    EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(widget->currentIndex(), 0);
+
+    rig.controls.CMD_RESET.SetEnabled(false);
+    int resets = 0;
+    rig.controls.CMD_RESET.SetOnClick([&] { ++resets; });
+    rig.Find<QAbstractButton>("CMD_RESET")->click();
+    EXPECT_EQ(resets, 0);
+}
+
+TEST(MainWindowTest, CloseAsksTheHandlerAndHonoursCancel)
+{
+    WindowRig rig;
+    rig.window.show();
+    int asked = 0;
+    int answerCancel = 1;
+    rig.window.SetCloseHandler([&](int& cancel) {
+        ++asked;
+        EXPECT_EQ(cancel, 0);
+        cancel = answerCancel;
+    });
+    EXPECT_FALSE(rig.window.close());
+    EXPECT_TRUE(rig.window.isVisible());
+    EXPECT_EQ(asked, 1);
+
+    answerCancel = 0;
+    EXPECT_TRUE(rig.window.close());
+    EXPECT_FALSE(rig.window.isVisible());
+    EXPECT_EQ(asked, 2);
+
+    rig.window.show();
+    rig.window.CloseWithoutAsking();
+    EXPECT_FALSE(rig.window.isVisible());
+    EXPECT_EQ(asked, 2);
+}
+
+TEST(MainWindowTest, EndingTheProgramFromTheCloseQuestionClosesOnce)
+{
+    WindowRig rig;
+    QtShell shell;
+    shell.SetOnEnd([&] { rig.window.CloseWithoutAsking(); });
+    rig.window.show();
+    int asked = 0;
+    rig.window.SetCloseHandler([&](int&) {
+        ++asked;
+        shell.EndProgram(); // the answer Yes ends the program from inside the close request
+    });
+    // The program ends from inside the application's running event loop, as it does for real.
+    bool closed = false;
+    QTimer start;
+    start.setSingleShot(true);
+    QObject::connect(&start, &QTimer::timeout, [&] { closed = rig.window.close(); });
+    start.start(0);
+    QTimer timeout;
+    timeout.setSingleShot(true);
+    QObject::connect(&timeout, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+    timeout.start(5000);
+    EXPECT_EQ(QApplication::exec(), 0) << "the event loop was left with exit code 0";
+    EXPECT_TRUE(closed);
+    EXPECT_FALSE(rig.window.isVisible());
+    EXPECT_EQ(asked, 1);
+}
+
+TEST(MainWindowTest, TheQuitQuestionAnsweredNoKeepsTheWindowOpen)
+{
+    fakes::TestRig fakes;
+    io::ModalGate gate;
+    MainWindow window(fakes.controls, gate);
+    app::MainForm form(fakes.state, fakes.controls, fakes.services);
+    window.SetCloseHandler([&form](int& cancel) { form.Form_Unload(cancel); });
+    form.Form_Load();
+    window.show();
+    fakes.dialogs.answers.push_back(platform::MessageResult::No);
+    window.close();
+    if (fakes.dialogs.boxes.empty())
+        GTEST_SKIP() << "the form does not ask before closing yet";
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(fakes.shell.endCount, 0);
+}
+
+TEST(MainWindowTest, SmallWindowsScrollAndTheUsualSizeFitsAcross)
+{
+    WindowRig rig;
+    rig.window.show();
+    auto* horizontal = rig.Find<QScrollBar>("HScroll");
+    auto* vertical = rig.Find<QScrollBar>("VScroll");
+
+    rig.window.resize(1024, 700);
+    testing::SpinEvents(50);
+    EXPECT_EQ(horizontal->maximum(), 0) << "1024 pixels wide needs no sideways scrolling";
+
+    rig.window.resize(600, 400);
+    testing::SpinEvents(50);
+    EXPECT_GT(horizontal->maximum(), 0);
+    EXPECT_GT(vertical->maximum(), 0);
+    EXPECT_TRUE(horizontal->isVisible());
+}
+
+TEST(QtShellTest, BusyPointerIsSetOnceAndRestored)
+{
+    QtShell shell;
+    ASSERT_EQ(QApplication::overrideCursor(), nullptr);
+    shell.SetBusyPointer(true);
+    shell.SetBusyPointer(true);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    shell.SetBusyPointer(false);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    shell.SetBusyPointer(false);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+} // namespace
+} // namespace ventrix::ui
