@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace ventrix::link {
 
@@ -13,137 +14,50 @@ constexpr int kRecognisedWords = 11; // only the first entries of the word table
 
 enum Word { kOverload = 0, kLogicHigh = 2, kLogicLow = 3, kOpen = 4 };
 
-// Function, unit label and base unit for one mode byte (temperature is handled apart).
+// Function, unit label and base unit of mode bytes 0 to 24; temperature (25) is handled apart
+// and every higher mode is unknown.
 struct Function {
     std::uint8_t kind;
     const char* label;
     const char* baseUnit;
 };
+constexpr Function kUnknownFunction { 255, "", "" };
+constexpr std::array<Function, 25> kFunctions { { { 0, "V", "V" }, { 1, "V AC", "V AC" }, { 2, "A", "A" },
+    { 2, "A", "A" }, { 2, "A", "A" }, { 3, "A AC", "A AC" }, { 3, "A AC", "A AC" }, { 3, "A AC", "A AC" },
+    { 4, "OHM", "ohm" }, { 5, "F", "F" }, { 6, "Hz", "Hz" }, { 6, "Hz", "Hz" }, { 6, "Hz", "Hz" },
+    { 7, "%", "%" }, { 7, "%", "%" }, { 7, "%", "%" }, { 8, "S", "S" }, { 8, "S", "S" }, { 8, "S", "S" },
+    { 9, "V", "V" }, { 10, "CONT", "ohm" }, { 11, "hFE", "hFE" }, { 12, "V", "V" }, { 13, "dBm", "dBm" },
+    { 15, "", "" } } };
 
-Function FunctionOf(std::uint8_t mode)
-{
-    switch (mode) {
-    case 0:
-        return { 0, "V", "V" };
-    case 1:
-        return { 1, "V AC", "V AC" };
-    case 2:
-    case 3:
-    case 4:
-        return { 2, "A", "A" };
-    case 5:
-    case 6:
-    case 7:
-        return { 3, "A AC", "A AC" };
-    case 8:
-        return { 4, "OHM", "ohm" };
-    case 9:
-        return { 5, "F", "F" };
-    case 10:
-    case 11:
-    case 12:
-        return { 6, "Hz", "Hz" };
-    case 13:
-    case 14:
-    case 15:
-        return { 7, "%", "%" };
-    case 16:
-    case 17:
-    case 18:
-        return { 8, "S", "S" };
-    case 19:
-        return { 9, "V", "V" };
-    case 20:
-        return { 10, "CONT", "ohm" };
-    case 21:
-        return { 11, "hFE", "hFE" };
-    case 22:
-        return { 12, "V", "V" };
-    case 23:
-        return { 13, "dBm", "dBm" };
-    case 24:
-        return { 15, "", "" };
-    default:
-        return { 255, "", "" };
-    }
-}
+// The digit each segment pattern (point bit cleared) shows; -1 where it is not a numeral.
+constexpr std::array<std::int8_t, 256> kDigitOf = [] {
+    std::array<std::int8_t, 256> table {};
+    table.fill(-1);
+    constexpr std::array<std::uint8_t, 10> patterns { 0xD7, 0x50, 0xB5, 0xF1, 0x72, 0xE3, 0xE7, 0x51, 0xF7,
+        0xF3 };
+    for (std::size_t d = 0; d < patterns.size(); ++d)
+        table[patterns[d]] = static_cast<std::int8_t>(d);
+    table[0x00] = 0; // a blank position counts as 0
+    return table;
+}();
 
-// The digit a position shows; -1 for a pattern that is not a numeral.
-int DigitOf(std::uint8_t position)
-{
-    switch (position & ~kPointBit & 0xFF) {
-    case 0x00:
-    case 0xD7:
-        return 0;
-    case 0x50:
-        return 1;
-    case 0xB5:
-        return 2;
-    case 0xF1:
-        return 3;
-    case 0x72:
-        return 4;
-    case 0xE3:
-        return 5;
-    case 0xE7:
-        return 6;
-    case 0x51:
-        return 7;
-    case 0xF7:
-        return 8;
-    case 0xF3:
-        return 9;
-    default:
-        return -1;
-    }
-}
+// The letter each segment pattern (point bit cleared) shows inside a word; a blank for any
+// pattern not listed, which includes every pattern up to 5 and from 245 up.
+constexpr std::array<char, 256> kCharOf = [] {
+    std::array<char, 256> table {};
+    table.fill(' ');
+    constexpr std::array<std::pair<std::uint8_t, char>, 18> letters { { { 0x06, 'I' }, { 0x20, '-' },
+        { 0x24, 'r' }, { 0x27, 'F' }, { 0x37, 'P' }, { 0x64, 'n' }, { 0x66, 'h' }, { 0x76, 'H' },
+        { 0x86, 'L' }, { 0x87, 'C' }, { 0xA4, 'c' }, { 0xA6, 't' }, { 0xA7, 'E' }, { 0xD7, 'O' },
+        { 0xE3, 'S' }, { 0xE4, 'o' }, { 0xE6, 'b' }, { 0xF4, 'd' } } };
+    for (const auto& [pattern, letter] : letters)
+        table[pattern] = letter;
+    return table;
+}();
 
-// The letter a position shows inside a word; anything unknown is a blank.
-char CharOf(std::uint8_t position)
+constexpr std::uint8_t Segments(std::uint8_t position)
 {
-    const int pattern = position & ~kPointBit & 0xFF;
-    if (pattern <= 5 || pattern >= 245)
-        return ' ';
-    switch (pattern) {
-    case 0x06:
-        return 'I';
-    case 0x20:
-        return '-';
-    case 0x24:
-        return 'r';
-    case 0x27:
-        return 'F';
-    case 0x37:
-        return 'P';
-    case 0x64:
-        return 'n';
-    case 0x66:
-        return 'h';
-    case 0x76:
-        return 'H';
-    case 0x86:
-        return 'L';
-    case 0x87:
-        return 'C';
-    case 0xA4:
-        return 'c';
-    case 0xA6:
-        return 't';
-    case 0xA7:
-        return 'E';
-    case 0xD7:
-        return 'O';
-    case 0xE3:
-        return 'S';
-    case 0xE4:
-        return 'o';
-    case 0xE6:
-        return 'b';
-    case 0xF4:
-        return 'd';
-    default:
-        return ' ';
-    }
+    return position & ~kPointBit & 0xFF;
 }
 
 } // namespace
@@ -157,7 +71,7 @@ bool DecodeFrame(app::AppState& state)
     // Function and unit.
     if (mode == 25) {
         state.FunctionKind = 14;
-        const int unitLetter = byte(4) & ~kPointBit & 0xFF;
+        const std::uint8_t unitLetter = Segments(byte(4));
         if (unitLetter == 0x87) {
             state.UnitLabel = state.BaseUnit = "°C";
         } else if (unitLetter == 0x27) {
@@ -166,7 +80,7 @@ bool DecodeFrame(app::AppState& state)
             state.UnitLabel.clear(); // the base unit keeps the last scale shown
         }
     } else {
-        const Function function = FunctionOf(mode);
+        const Function& function = mode < kFunctions.size() ? kFunctions[mode] : kUnknownFunction;
         state.FunctionKind = function.kind;
         state.UnitLabel = function.label;
         state.BaseUnit = function.baseUnit;
@@ -216,7 +130,7 @@ bool DecodeFrame(app::AppState& state)
     state.HasWord = false;
     double count = 0.0;
     for (int i = 0; i < positions; ++i) {
-        int digit = DigitOf(byte(7 - i));
+        int digit = kDigitOf[Segments(byte(7 - i))];
         if (digit < 0) {
             digit = 0;
             state.HasWord = true;
@@ -243,7 +157,7 @@ bool DecodeFrame(app::AppState& state)
     if (state.HasWord) {
         std::string word;
         for (int k = 7; k >= 4; --k)
-            word.push_back(CharOf(byte(k)));
+            word.push_back(kCharOf[Segments(byte(k))]);
         int index = -1;
         for (int i = 0; i < kRecognisedWords; ++i) {
             if (word == kSpecialWordTable[static_cast<std::size_t>(i)]) {

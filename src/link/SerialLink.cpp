@@ -130,6 +130,7 @@ void SerialLink::StopAcquisition()
 
 void SerialLink::OnComm()
 {
+    m_acceptedOffset = -1;
     platform::SerialPort& port = m_services.MSComm1;
     if (port.CommEvent() != platform::SerialPort::kEvReceive)
         return; // line errors and modem events are ignored; their characters stay unread

@@ -35,8 +35,8 @@ public:
     void RequestExtremaReset();
     void ResetFrameState(); // FrameResetMarker, FrameData, FrameChecksum
 
-    // 0-based offset, within the bytes of the last AssembleFrame call, of the frame it accepted;
-    // -1 when it accepted none.
+    // 0-based offset, within the bytes of the last receive event or AssembleFrame call, of the
+    // frame accepted there; -1 when none was.
     int AcceptedOffset() const { return m_acceptedOffset; }
 
     static constexpr int kFrameLength = 9;

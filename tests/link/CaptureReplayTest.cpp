@@ -85,13 +85,5 @@ TEST(CaptureReplayTest, MisalignedStreamReportsOffsetsInTheInput)
     EXPECT_EQ(seen.back().offset, stream.size() - 9);
 }
 
-TEST(CaptureReplayTest, ControlsAreThoseOfTheReplayedWindow)
-{
-    std::vector<bool> stopEnabled;
-    CaptureReplay().Run(MeterFrame(0, VoltsReading(1)),
-        [&](const CaptureReplay::Frame& f) { stopEnabled.push_back(f.controls.CMD_STOP.Enabled()); });
-    EXPECT_EQ(stopEnabled, std::vector<bool> { true });
-}
-
 } // namespace
 } // namespace ventrix::link

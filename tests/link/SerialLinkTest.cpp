@@ -18,13 +18,11 @@ using platform::MessageResult;
 using testing::MeterFrame;
 using testing::VoltsReading;
 
-const std::string kGarbage9 = std::string(9, '\x55');
-
 class SerialLinkTest : public ::testing::Test {
 protected:
     SerialLinkTest()
     {
-        rig.serial.SetOnComm([this] { ++events, link.OnComm(); });
+        rig.serial.SetOnComm([this] { link.OnComm(); });
         rig.unlinkTimer.SetOnTick([this] { link.UnlinkTimerTick(); });
     }
 
@@ -53,12 +51,6 @@ protected:
         EXPECT_EQ(rig.state.FrameData, (std::array<std::uint8_t, 7> {}));
         EXPECT_EQ(rig.state.FrameChecksum, 0);
     }
-    void MessUpFrameState()
-    {
-        rig.state.FrameResetMarker = 0;
-        rig.state.FrameData.fill(0x77);
-        rig.state.FrameChecksum = 0x77;
-    }
     void ExpectBox(
         const std::string& text, MessageButtons buttons, MessageIcon icon, const std::string& title)
     {
@@ -74,7 +66,6 @@ protected:
     display::VirtualLcd lcd { rig.state, rig.controls };
     display::AnalogGauge gauge { rig.state, rig.knob, rig.analogTimer };
     SerialLink link { rig.state, rig.controls, rig.services, lcd, gauge };
-    int events = 0;
 };
 
 // ---- start, stop and link loss
@@ -85,8 +76,10 @@ TEST_F(SerialLinkTest, StartOpensTheChosenPortAndArmsTheTimers)
     rig.state.PageFill = 17;
     rig.state.SwapPageCount = 4;
     rig.state.HasNewFrame = true;
+    rig.state.FrameResetMarker = 0;
+    rig.state.FrameData.fill(0x77);
+    rig.state.FrameChecksum = 0x77;
     rig.graph.points = { 1.0, 2.0 };
-    MessUpFrameState();
 
     link.StartAcquisition();
 
@@ -115,16 +108,11 @@ TEST_F(SerialLinkTest, StartOpensTheChosenPortAndArmsTheTimers)
     EXPECT_FALSE(rig.state.HasNewFrame);
     ExpectFrameStateReset();
     EXPECT_TRUE(rig.dialogs.boxes.empty());
-}
 
-TEST_F(SerialLinkTest, StartWhileAcquiringOnlyAsksForAnExtremaReset)
-{
-    link.StartAcquisition();
+    // A second start only asks for an extrema reset.
     rig.state.GraphRestartPending = false;
-    rig.state.HasNewFrame = true;
     link.StartAcquisition();
     EXPECT_TRUE(rig.state.GraphRestartPending);
-    EXPECT_TRUE(rig.state.HasNewFrame);
     EXPECT_EQ(rig.serial.openCount, 1);
     EXPECT_EQ(rig.graph.clears, 1);
 }
@@ -141,7 +129,6 @@ TEST_F(SerialLinkTest, StartWithAFullLogClosesThePortAndStaysIdle)
     ExpectIdle();
     EXPECT_EQ(rig.serial.openCount, 1);
     EXPECT_EQ(rig.graph.clears, 0);
-    EXPECT_TRUE(rig.state.GraphRestartPending);
     ExpectBox("Buffer Full! Please reset buffer before continue.", MessageButtons::Ok, MessageIcon::None,
         "Ventrix");
 }
@@ -155,22 +142,10 @@ TEST_F(SerialLinkTest, StartFailingToOpenThePortWarnsAndLeavesTheTimersAlone)
 
     EXPECT_FALSE(rig.state.IsAcquiring);
     ExpectCommands(false);
-    EXPECT_FALSE(rig.serial.IsOpen());
-    EXPECT_EQ(rig.unlinkTimer.restarts, 0);
-    EXPECT_EQ(rig.sampleTimer.restarts, 0);
-    EXPECT_FALSE(rig.unlinkTimer.Enabled());
-    EXPECT_FALSE(rig.sampleTimer.Enabled());
+    EXPECT_EQ(rig.unlinkTimer.restarts + rig.sampleTimer.restarts + rig.analogTimer.restarts, 0);
     EXPECT_TRUE(rig.controls.COM.Enabled());
-    EXPECT_TRUE(rig.controls.RATE.Enabled());
     EXPECT_EQ(rig.graph.clears, 0);
     ExpectBox("Cannot open COM 3!", MessageButtons::Ok, MessageIcon::Exclamation, "Ventrix");
-
-    // The port can be started once it opens again.
-    rig.serial.failOpen = false;
-    rig.dialogs.boxes.clear();
-    link.StartAcquisition();
-    EXPECT_TRUE(rig.state.IsAcquiring);
-    EXPECT_TRUE(rig.dialogs.boxes.empty());
 }
 
 TEST_F(SerialLinkTest, StopClosesAndFlushesThePortAndAwaitsAnAbsoluteReading)
@@ -178,6 +153,7 @@ TEST_F(SerialLinkTest, StopClosesAndFlushesThePortAndAwaitsAnAbsoluteReading)
     link.StartAcquisition();
     rig.serial.Feed(MeterFrame(0, VoltsReading(42)));
     rig.analogTimer.SetEnabled(true);
+    rig.debugTimer.SetEnabled(true);
     ASSERT_FALSE(rig.state.AwaitingAbsoluteReading);
     const int discards = rig.serial.discardCount;
 
@@ -191,42 +167,23 @@ TEST_F(SerialLinkTest, StopClosesAndFlushesThePortAndAwaitsAnAbsoluteReading)
     EXPECT_EQ(rig.debugTimer.Interval(), 200);
 }
 
-TEST_F(SerialLinkTest, StopWhenIdleStillSwitchesOffTheSimulatorAndTouchesNoPort)
-{
-    rig.debugTimer.SetEnabled(true);
-    link.StopAcquisition();
-    ExpectIdle();
-    EXPECT_FALSE(rig.debugTimer.Enabled());
-    EXPECT_EQ(rig.serial.closeCount, 0);
-    EXPECT_EQ(rig.serial.discardCount, 0);
-}
-
-TEST_F(SerialLinkTest, LinkLossYesKeepsWaitingAndAsksAgain)
+TEST_F(SerialLinkTest, LinkLossAsksAgainOnYesAndOnNoStopsWithoutFlushingOrTheRelativeGuard)
 {
     link.StartAcquisition();
-    rig.dialogs.answers = { MessageResult::Yes, MessageResult::Yes };
+    rig.serial.Feed(MeterFrame(0, VoltsReading(42)));
+    rig.debugTimer.SetEnabled(true);
+    const int discards = rig.serial.discardCount;
+    rig.dialogs.answers = { MessageResult::Yes, MessageResult::No };
+
     rig.unlinkTimer.Fire();
     EXPECT_TRUE(rig.state.IsAcquiring);
     EXPECT_TRUE(rig.serial.IsOpen());
     EXPECT_TRUE(rig.unlinkTimer.Enabled());
-    ExpectCommands(true);
     ExpectBox(
         "No data for more than 10sec, Continue?", MessageButtons::YesNo, MessageIcon::Question, "Warning");
+
     rig.unlinkTimer.Fire();
     EXPECT_EQ(rig.dialogs.boxes.size(), 2u);
-}
-
-TEST_F(SerialLinkTest, LinkLossNoStopsWithoutFlushingOrTheRelativeGuard)
-{
-    link.StartAcquisition();
-    rig.serial.Feed(MeterFrame(0, VoltsReading(42)));
-    ASSERT_TRUE(rig.state.HasNewFrame);
-    rig.debugTimer.SetEnabled(true);
-    const int discards = rig.serial.discardCount;
-    rig.dialogs.answers = { MessageResult::No };
-
-    rig.unlinkTimer.Fire();
-
     ExpectIdle();
     ExpectFrameStateReset();
     EXPECT_EQ(rig.serial.discardCount, discards);
@@ -242,12 +199,10 @@ TEST_F(SerialLinkTest, NineByteFrameIsAcceptedStoredAndDecoded)
     const std::string frame = MeterFrame(0, VoltsReading(1234, true));
     rig.serial.Feed(frame);
 
-    EXPECT_EQ(events, 1);
     EXPECT_EQ(link.AcceptedOffset(), 0);
     EXPECT_TRUE(rig.state.HasNewFrame);
     EXPECT_EQ(rig.state.ModeByte, 0);
-    // Stored reversed: element 0 is byte 8, element 6 byte 2.
-    for (int k = 2; k <= 8; ++k)
+    for (int k = 2; k <= 8; ++k) // stored reversed: element 0 is byte 8
         EXPECT_EQ(rig.state.FrameData[static_cast<std::size_t>(8 - k)],
             static_cast<std::uint8_t>(frame[static_cast<std::size_t>(k - 1)]))
             << "byte " << k;
@@ -255,7 +210,6 @@ TEST_F(SerialLinkTest, NineByteFrameIsAcceptedStoredAndDecoded)
     EXPECT_EQ(rig.state.SignedCount, -1234);
     EXPECT_EQ(rig.serial.InBufferCount(), 0);
     EXPECT_EQ(rig.serial.thresholdHistory, "9"); // already 9: not written again
-    EXPECT_TRUE(rig.dialogs.boxes.empty());
 }
 
 TEST_F(SerialLinkTest, AlignmentOffsetsStopAtThree)
@@ -276,32 +230,20 @@ TEST_F(SerialLinkTest, ShortOrCorruptEventsAcceptNothingAndToggleTheThreshold)
     const std::string frame = MeterFrame(0, VoltsReading(5678));
     std::string badSum = frame;
     badSum[8] = static_cast<char>(badSum[8] + 1);
-    std::string badMode = MeterFrame(0, testing::With(VoltsReading(5678), 8, 0x00)); // byte 8 lacks 0x02
+    const std::string badMode
+        = MeterFrame(0, testing::With(VoltsReading(5678), 8, 0x00)); // byte 8 lacks 0x02
 
     for (const std::string& received : { frame.substr(0, 8), std::string(), badSum, badMode }) {
         const int restarts = rig.unlinkTimer.restarts;
         const int discards = rig.serial.discardCount;
-        const int before = rig.serial.RThreshold();
         link.AssembleFrame(received);
         EXPECT_EQ(link.AcceptedOffset(), -1);
         EXPECT_FALSE(rig.state.HasNewFrame);
-        EXPECT_EQ(rig.serial.RThreshold(), before == 9 ? 10 : 9);
         EXPECT_EQ(rig.serial.discardCount, discards + 1);
         EXPECT_GT(rig.unlinkTimer.restarts, restarts); // supervision restarted even so
         EXPECT_TRUE(rig.unlinkTimer.Enabled());
     }
     EXPECT_EQ(rig.serial.thresholdHistory, "9A9A9");
-}
-
-TEST_F(SerialLinkTest, ChecksumWrapsModulo256)
-{
-    // Large segment bytes make the sum pass 256 several times.
-    const std::string frame = MeterFrame(0, { 0x03, 0x01, 0xF7, 0xF7, 0xF7, 0xF7, 0x3B });
-    ASSERT_EQ(static_cast<std::uint8_t>(frame[8]), (0x03 + 0x01 + 4 * 0xF7 + 0x3B + 57) % 256);
-    link.StartAcquisition();
-    link.AssembleFrame(frame);
-    EXPECT_EQ(link.AcceptedOffset(), 0);
-    EXPECT_EQ(rig.state.CountValue, 8888);
 }
 
 TEST_F(SerialLinkTest, CandidateWithRightChecksumButWrongModeIsSkippedForTheNextOffset)
@@ -311,8 +253,8 @@ TEST_F(SerialLinkTest, CandidateWithRightChecksumButWrongModeIsSkippedForTheNext
     unsigned sum = 57;
     for (int i = 0; i < 7; ++i)
         sum += static_cast<std::uint8_t>(frame[static_cast<std::size_t>(i)]);
-    const auto lead = static_cast<char>((static_cast<std::uint8_t>(frame[7]) - sum) & 0xFF);
-    const std::string received = lead + frame;
+    const std::string received
+        = static_cast<char>((static_cast<std::uint8_t>(frame[7]) - sum) & 0xFF) + frame;
     ASSERT_EQ(ComputeChecksum(received, 0), static_cast<std::uint8_t>(received[8]));
     ASSERT_FALSE(ValidateFrame(received, 0));
 
@@ -325,42 +267,38 @@ TEST_F(SerialLinkTest, CandidateWithRightChecksumButWrongModeIsSkippedForTheNext
 TEST_F(SerialLinkTest, ThresholdReturnsToNineThroughTheIntermediateValue)
 {
     link.StartAcquisition();
-    rig.serial.Feed(kGarbage9); // 9 bytes, nothing found: 10 next
-    rig.serial.Feed(std::string(1, '\x55') + MeterFrame(0, VoltsReading(2))); // 10 bytes, frame at offset 1
+    rig.serial.Feed(std::string(9, '\x55')); // nothing found: 10 next
+    rig.serial.Feed('\x55' + MeterFrame(0, VoltsReading(2))); // 10 bytes, frame at offset 1
     EXPECT_EQ(link.AcceptedOffset(), 1);
-    // 18 - (10 mod 9) = 17, then 9.
-    EXPECT_EQ(rig.serial.thresholdHistory, "9AH9");
-    EXPECT_EQ(rig.serial.RThreshold(), 9);
+    EXPECT_EQ(rig.serial.thresholdHistory, "9AH9"); // 18 - (10 mod 9) = 17, then 9
 }
 
 TEST_F(SerialLinkTest, MisalignedStreamFallsBackInStepWithinAFewEvents)
 {
     const std::string frame = MeterFrame(0, VoltsReading(4321));
+    int count = 0;
+    int firstAccepted = -1;
+    int lastMissed = -1;
+    rig.serial.SetOnComm([&] {
+        link.OnComm();
+        if (link.AcceptedOffset() < 0)
+            lastMissed = count;
+        else if (firstAccepted < 0)
+            firstAccepted = count;
+        ++count;
+    });
     for (int shift = 0; shift < 9; ++shift) {
-        fakes::TestRig r;
-        display::VirtualLcd l(r.state, r.controls);
-        display::AnalogGauge g(r.state, r.knob, r.analogTimer);
-        SerialLink s(r.state, r.controls, r.services, l, g);
-        int count = 0;
-        int firstAccepted = -1;
-        int lastMissed = -1;
-        r.serial.SetOnComm([&] {
-            s.OnComm();
-            if (s.AcceptedOffset() >= 0 && firstAccepted < 0)
-                firstAccepted = count;
-            if (s.AcceptedOffset() < 0)
-                lastMissed = count;
-            ++count;
-        });
-        s.StartAcquisition();
-        r.serial.Feed(std::string(static_cast<std::size_t>(shift), '\xAA'));
+        count = 0;
+        firstAccepted = lastMissed = -1;
+        link.StartAcquisition();
+        rig.serial.Feed(std::string(static_cast<std::size_t>(shift), '\xAA'));
         for (int i = 0; i < 40; ++i)
-            r.serial.Feed(frame);
-        EXPECT_GE(firstAccepted, 0) << "shift " << shift;
+            rig.serial.Feed(frame);
+        link.StopAcquisition();
         // The event boundary walks one byte per two events: at most 16 events (17 frames).
+        EXPECT_GE(firstAccepted, 0) << "shift " << shift;
         EXPECT_LE(firstAccepted, 16) << "shift " << shift;
         EXPECT_LT(lastMissed, firstAccepted) << "once in step it stays in step, shift " << shift;
-        EXPECT_EQ(r.state.CountValue, 4321);
     }
 }
 
@@ -368,7 +306,6 @@ TEST_F(SerialLinkTest, BytesWhileIdleAreDrainedAndIgnored)
 {
     rig.serial.SetRThreshold(9);
     rig.serial.Feed(MeterFrame(0, VoltsReading(7)));
-    EXPECT_EQ(events, 1);
     EXPECT_EQ(rig.serial.InBufferCount(), 0);
     EXPECT_FALSE(rig.state.HasNewFrame);
     EXPECT_EQ(rig.unlinkTimer.restarts, 0);
@@ -386,7 +323,6 @@ TEST_F(SerialLinkTest, OnlyTheReceiveEventIsHandled)
         EXPECT_FALSE(rig.state.HasNewFrame) << "event " << code;
     }
     rig.serial.RaiseEvent(platform::SerialPort::kEvReceive);
-    EXPECT_EQ(rig.serial.InBufferCount(), 0);
     EXPECT_TRUE(rig.state.HasNewFrame);
 }
 
@@ -397,9 +333,7 @@ TEST_F(SerialLinkTest, RelativeModeAtStartStopsAndWarnsAfterDecoding)
 
     ExpectIdle();
     EXPECT_TRUE(rig.state.AwaitingAbsoluteReading);
-    EXPECT_TRUE(rig.state.HasNewFrame);
     EXPECT_EQ(rig.state.CountValue, 1234);
-    EXPECT_TRUE(rig.state.IsRelative);
     ExpectBox("Please disable relative mode before acquiring data", MessageButtons::Ok,
         MessageIcon::Exclamation, "Warning");
 
@@ -408,17 +342,6 @@ TEST_F(SerialLinkTest, RelativeModeAtStartStopsAndWarnsAfterDecoding)
     link.StartAcquisition();
     rig.serial.Feed(MeterFrame(0, VoltsReading(1234)));
     rig.serial.Feed(MeterFrame(0, VoltsReading(3, false, true)));
-    EXPECT_TRUE(rig.state.IsAcquiring);
-    EXPECT_TRUE(rig.dialogs.boxes.empty());
-}
-
-TEST_F(SerialLinkTest, RefusalCanBeHandedToTheOwner)
-{
-    int refusals = 0;
-    SerialLink recording(rig.state, rig.controls, rig.services, lcd, gauge, [&] { ++refusals; });
-    recording.StartAcquisition();
-    recording.AssembleFrame(MeterFrame(0, VoltsReading(1234, false, true)));
-    EXPECT_EQ(refusals, 1);
     EXPECT_TRUE(rig.state.IsAcquiring);
     EXPECT_TRUE(rig.dialogs.boxes.empty());
 }
