@@ -61,6 +61,13 @@ TEST(VirtualMeterEndToEnd, ReadingsArriveInTheState)
 
     link.StopAcquisition();
     EXPECT_FALSE(port.IsOpen());
+
+    // Stop and start again: the same device opens again and frames keep coming.
+    link.StartAcquisition();
+    EXPECT_TRUE(port.IsOpen());
+    EXPECT_FALSE(rig.state.HasNewFrame);
+    EXPECT_TRUE(SpinUntil([&] { return rig.state.HasNewFrame; }, 5s)) << "no frame after a restart";
+    link.StopAcquisition();
     unsetenv("VENTRIX_COM1");
 
     meter.terminate();
