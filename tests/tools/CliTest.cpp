@@ -1,4 +1,4 @@
-#include "io/FrameEncoder.h"
+#include "ventrix-cli/FrameEncoder.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,7 +14,7 @@
 #include <unistd.h>
 
 using namespace std::chrono_literals;
-using ventrix::io::MeterDisplay;
+using ventrix::cli::MeterDisplay;
 
 namespace {
 
@@ -40,7 +40,7 @@ Result RunCli(const QStringList& arguments, const QByteArray& input = {})
 std::string Frame(MeterDisplay display)
 {
     std::string error;
-    const auto frame = ventrix::io::EncodeFrame(display, error);
+    const auto frame = ventrix::cli::EncodeFrame(display, error);
     EXPECT_TRUE(frame) << error;
     return frame ? std::string(frame->begin(), frame->end()) : std::string();
 }

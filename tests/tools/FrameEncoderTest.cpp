@@ -1,7 +1,7 @@
-#include "io/FrameEncoder.h"
+#include "ventrix-cli/FrameEncoder.h"
 #include "app/AppState.h"
 #include "display/VirtualLcd.h"
-#include "io/DemoScenario.h"
+#include "ventrix-cli/DemoScenario.h"
 #include "link/FrameDecoder.h"
 #include "link/FrameValidator.h"
 #include "platform/MainControls.h"
@@ -9,9 +9,9 @@
 #include <gtest/gtest.h>
 #include <set>
 
-using ventrix::io::EncodeFrame;
-using ventrix::io::MeterDisplay;
-using ventrix::io::RawFrame;
+using ventrix::cli::EncodeFrame;
+using ventrix::cli::MeterDisplay;
+using ventrix::cli::RawFrame;
 
 namespace {
 
@@ -48,20 +48,20 @@ TEST(FrameEncoder, ChecksumWrapsModulo256)
 {
     RawFrame frame;
     frame.fill(255);
-    EXPECT_EQ(ventrix::io::FrameChecksum(frame), 49);
+    EXPECT_EQ(ventrix::cli::FrameChecksum(frame), 49);
     frame.fill(0);
-    EXPECT_EQ(ventrix::io::FrameChecksum(frame), 57);
+    EXPECT_EQ(ventrix::cli::FrameChecksum(frame), 57);
 }
 
 // Every frame of the demonstration must be one the program accepts, with a correct checksum.
 TEST(FrameEncoder, DemonstrationFramesPassValidation)
 {
     std::set<int> modes;
-    for (const MeterDisplay& display : ventrix::io::DemoScenario()) {
+    for (const MeterDisplay& display : ventrix::cli::DemoScenario()) {
         std::string error;
         const auto frame = EncodeFrame(display, error);
         ASSERT_TRUE(frame) << "mode " << int(display.mode) << " \"" << display.text << "\": " << error;
-        EXPECT_EQ((*frame)[8], ventrix::io::FrameChecksum(*frame));
+        EXPECT_EQ((*frame)[8], ventrix::cli::FrameChecksum(*frame));
         EXPECT_TRUE(ventrix::link::ValidateFrame(Bytes(*frame), 0))
             << "mode " << int(display.mode) << " \"" << display.text << "\"";
         modes.insert(display.mode);
@@ -72,7 +72,7 @@ TEST(FrameEncoder, DemonstrationFramesPassValidation)
             modes.count(representative) || modes.count(representative + 1) || modes.count(representative + 2))
             << "no frame for mode " << representative;
     // The loop must not open in relative mode, or starting acquisition at the loop's turn fails.
-    EXPECT_FALSE(ventrix::io::DemoScenario().front().rel);
+    EXPECT_FALSE(ventrix::cli::DemoScenario().front().rel);
 }
 
 TEST(FrameEncoder, DecodesBackToTheReadingShown)

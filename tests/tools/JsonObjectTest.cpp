@@ -1,11 +1,11 @@
-#include "io/JsonObject.h"
+#include "ventrix-cli/JsonObject.h"
 
 #include <cmath>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
 
-using ventrix::io::JsonObject;
+using ventrix::cli::JsonObject;
 
 TEST(JsonObject, QuotesStringsAsJsonRequires)
 {

@@ -1,6 +1,6 @@
 #include "Commands.h"
 
-#include "io/CaptureJson.h"
+#include "ventrix-cli/CaptureJson.h"
 #include "link/CaptureReplay.h"
 
 #include <cerrno>
@@ -56,7 +56,7 @@ int RunDecode(int argc, char** argv)
 
     link::CaptureReplay replay;
     replay.Run(bytes, [](const link::CaptureReplay::Frame& frame) {
-        const std::string line = io::CaptureFrameJson(frame);
+        const std::string line = CaptureFrameJson(frame);
         std::fwrite(line.data(), 1, line.size(), stdout);
         std::fputc('\n', stdout);
     });

@@ -1,7 +1,7 @@
 #include "Commands.h"
 
-#include "io/DemoScenario.h"
-#include "io/FrameEncoder.h"
+#include "ventrix-cli/DemoScenario.h"
+#include "ventrix-cli/FrameEncoder.h"
 
 #include <cerrno>
 #include <csignal>
@@ -84,8 +84,8 @@ bool WriteByte(int master, unsigned char byte)
 std::vector<std::string> DemoFrames(std::string& error)
 {
     std::vector<std::string> frames;
-    for (const io::MeterDisplay& display : io::DemoScenario()) {
-        const auto frame = io::EncodeFrame(display, error);
+    for (const MeterDisplay& display : DemoScenario()) {
+        const auto frame = EncodeFrame(display, error);
         if (!frame)
             return {};
         frames.emplace_back(frame->begin(), frame->end());

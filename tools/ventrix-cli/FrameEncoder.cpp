@@ -1,8 +1,8 @@
-#include "io/FrameEncoder.h"
+#include "ventrix-cli/FrameEncoder.h"
 
 #include <vector>
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 namespace {
 
@@ -235,4 +235,4 @@ std::optional<RawFrame> EncodeFrame(const MeterDisplay& display, std::string& er
     return frame;
 }
 
-} // namespace ventrix::io
+} // namespace ventrix::cli

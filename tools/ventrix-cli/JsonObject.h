@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 // Builds one JSON object as text, members in the order added. Strings are UTF-8 and pass
 // through unchanged except for the characters JSON must escape; a byte that is not part of
@@ -29,4 +29,4 @@ private:
     std::string m_members;
 };
 
-} // namespace ventrix::io
+} // namespace ventrix::cli

@@ -1,10 +1,10 @@
-#include "io/DemoScenario.h"
+#include "ventrix-cli/DemoScenario.h"
 
 #include <cmath>
 #include <cstdio>
 #include <numbers>
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 namespace {
 
@@ -150,4 +150,4 @@ std::vector<MeterDisplay> DemoScenario()
     return frames;
 }
 
-} // namespace ventrix::io
+} // namespace ventrix::cli

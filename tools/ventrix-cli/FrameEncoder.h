@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 // What the meter's LCD shows, in the terms a user reads off it.
 struct MeterDisplay {
@@ -37,4 +37,4 @@ std::optional<RawFrame> EncodeFrame(const MeterDisplay& display, std::string& er
 // (byte 1 + ... + byte 8 + 57) modulo 256.
 std::uint8_t FrameChecksum(const RawFrame& frame);
 
-} // namespace ventrix::io
+} // namespace ventrix::cli

@@ -1,9 +1,9 @@
-#include "io/JsonObject.h"
+#include "ventrix-cli/JsonObject.h"
 
 #include <charconv>
 #include <cmath>
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 namespace {
 
@@ -139,4 +139,4 @@ JsonObject& JsonObject::AddNull(const std::string& key)
     return AddRaw(key, "null");
 }
 
-} // namespace ventrix::io
+} // namespace ventrix::cli

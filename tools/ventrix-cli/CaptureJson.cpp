@@ -1,8 +1,8 @@
-#include "io/CaptureJson.h"
+#include "ventrix-cli/CaptureJson.h"
 
-#include "io/JsonObject.h"
+#include "ventrix-cli/JsonObject.h"
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 std::string CaptureFrameJson(const link::CaptureReplay::Frame& frame)
 {
@@ -39,4 +39,4 @@ std::string CaptureFrameJson(const link::CaptureReplay::Frame& frame)
     return line.Text();
 }
 
-} // namespace ventrix::io
+} // namespace ventrix::cli

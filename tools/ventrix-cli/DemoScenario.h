@@ -1,10 +1,10 @@
 #pragma once
 
-#include "io/FrameEncoder.h"
+#include "ventrix-cli/FrameEncoder.h"
 
 #include <vector>
 
-namespace ventrix::io {
+namespace ventrix::cli {
 
 // The virtual meter's demonstration: one display per frame, walking through every function
 // with its prefixes, decimal positions, words (" OF ", "OPEn", " HI ", " LO "), negative
@@ -13,4 +13,4 @@ namespace ventrix::io {
 // relative mode.
 std::vector<MeterDisplay> DemoScenario();
 
-} // namespace ventrix::io
+} // namespace ventrix::cli
