@@ -78,6 +78,10 @@ DialKnob::DialKnob(QWidget* parent)
 {
     setObjectName("KNOB_ANALOG");
     setReadOnly(true);
+    // The dial is hidden for readings it cannot show; keep its place so the panel does not jump.
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
     setFocusPolicy(Qt::NoFocus);
     setWrapping(false);
     setMode(QwtDial::RotateNeedle);

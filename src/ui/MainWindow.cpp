@@ -1,5 +1,6 @@
 #include "ui/MainWindow.h"
 
+#include "io/PortNames.h"
 #include "io/QtTimer.h"
 #include "ui/ControlBinding.h"
 #include "ui/DialKnob.h"
@@ -22,6 +23,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
@@ -171,6 +173,17 @@ void MainWindow::BuildMenus()
         separator->setObjectName(QString::fromStdString(m_controls.OPTION_SEPARATORS[index].Name()));
     };
     addGroup("COM", m_controls.COM_ITEMS);
+    // Each COM item tells in the status bar which device it stands for; devices come and go, so
+    // the tips are renewed every time the submenu opens.
+    QMenu* comMenu = option->findChild<QMenu*>(Name("COM"));
+    auto describePorts = [this] {
+        for (std::size_t i = 0; i < m_controls.COM_ITEMS.size(); ++i)
+            if (auto* item = findChild<QAction*>(QString::fromStdString(m_controls.COM_ITEMS[i].Name())))
+                item->setStatusTip(io::DescribeComPort(static_cast<int>(i) + 1));
+    };
+    describePorts();
+    connect(comMenu, &QMenu::aboutToShow, this, describePorts);
+    statusBar()->setObjectName(Name("STATUS_BAR"));
     addGroup("RATE", m_controls.SEC_ITEMS);
     addSeparator(0);
     addGroup("WIDTH", m_controls.WIDTH_ITEMS);
