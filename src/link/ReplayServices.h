@@ -2,6 +2,8 @@
 
 #include "link/ReplayPort.h"
 #include "platform/Services.h"
+#include "platform/UnavailablePrinter.h"
+#include "platform/UnavailableSpreadsheet.h"
 
 namespace ventrix::link {
 
@@ -88,23 +90,6 @@ private:
         void SetAxisMaximum(double) override { }
     };
 
-    class NullSpreadsheet : public platform::Spreadsheet {
-    public:
-        bool Create() override { return false; }
-        void SetStandardWidth(double) override { }
-        bool SetCellText(const std::string&, const std::string&) override { return false; }
-        void SetBold(const std::string&) override { }
-        void Finish() override { }
-    };
-
-    class NullPrinter : public platform::Printer {
-    public:
-        bool SetOrientation(int) override { return false; }
-        bool PrintLine(const std::string&) override { return false; }
-        bool PaintGraphPicture(double, double, double) override { return false; }
-        bool EndDocument() override { return false; }
-    };
-
     class NullPaths : public platform::AppPaths {
     public:
         std::filesystem::path ProgramDirectory() const override { return {}; }
@@ -125,8 +110,8 @@ private:
     NullDialogs m_dialogs;
     NullGraph m_graph;
     NullKnob m_knob;
-    NullSpreadsheet m_spreadsheet;
-    NullPrinter m_printer;
+    platform::UnavailableSpreadsheet m_spreadsheet;
+    platform::UnavailablePrinter m_printer;
     NullPaths m_paths;
     NullShell m_shell;
     platform::Services m_services { m_port, { m_unlinkTimer, m_sampleTimer, m_analogTimer, m_debugTimer },

@@ -4,9 +4,10 @@
 #include "io/QtSerialPortAdapter.h"
 #include "io/StandardAppPaths.h"
 #include "io/SystemClock.h"
-#include "io/UnavailableSpreadsheet.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
+#include "platform/UnavailablePrinter.h"
+#include "platform/UnavailableSpreadsheet.h"
 #include "ui/DialKnob.h"
 #include "ui/MainWindow.h"
 #include "ui/PanelStyle.h"
@@ -14,7 +15,6 @@
 #include "ui/QtShell.h"
 #include "ui/QwtGraphAdapter.h"
 #include "ui/ToolIcons.h"
-#include "ui/UnavailablePrinter.h"
 
 #include <QApplication>
 
@@ -35,8 +35,8 @@ int main(int argc, char** argv)
     io::QtSerialPortAdapter serial(gate);
     io::SystemClock clock;
     io::StandardAppPaths paths;
-    io::UnavailableSpreadsheet spreadsheet;
-    ui::UnavailablePrinter printer;
+    platform::UnavailableSpreadsheet spreadsheet;
+    platform::UnavailablePrinter printer;
     ui::QtShell shell;
 
     app::AppState state;

@@ -2,11 +2,12 @@
 
 #include "platform/Printer.h"
 
-namespace ventrix::ui {
+namespace ventrix::platform {
 
-// Stands in for the printer until printing is built: every call fails, so a print ends on its
+// Stands in where there is no printer (the program until it has one, the capture
+// replay): every call fails, so a print ends on its
 // silent error path and nothing is printed.
-class UnavailablePrinter : public platform::Printer {
+class UnavailablePrinter : public Printer {
 public:
     bool SetOrientation(int) override { return false; }
     bool PrintLine(const std::string&) override { return false; }
@@ -14,4 +15,4 @@ public:
     bool EndDocument() override { return false; }
 };
 
-} // namespace ventrix::ui
+} // namespace ventrix::platform
