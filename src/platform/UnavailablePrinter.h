@@ -4,9 +4,8 @@
 
 namespace ventrix::platform {
 
-// Stands in where there is no printer (the program until it has one, the capture
-// replay): every call fails, so a print ends on its
-// silent error path and nothing is printed.
+// Stands in where there is no printer (the program until it has one, the capture replay):
+// every call fails, so a print ends on its silent error path and nothing is printed.
 class UnavailablePrinter : public Printer {
 public:
     bool SetOrientation(int) override { return false; }
