@@ -65,8 +65,6 @@ TEST_F(SettingsTest, LoadThenSave)
         { "no file: defaults", std::nullopt, { 1, 1, 0, 1, 0, 0, 1 }, { 1, 1, 0, 0, 0, 0, 1 } },
         { "every field set", Bytes { 2, 10, 3, 2, 3, 1, 0 }, { 2, 10, 3, 4, 22, 1, 0 },
             { 2, 10, 3, 2, 3, 1, 0 } },
-        { "asterisk is code 3", Bytes { 3, 5, 1, 1, 5, 0, 0 }, { 3, 5, 1, 2, 3, 0, 0 },
-            { 3, 5, 1, 1, 5, 0, 0 } },
         { "rate 3 s is no menu rate", Bytes { 1, 3, 0, 0, 0, 0, 1 }, { 1, 1, 0, 1, 0, 0, 1 },
             { 1, 1, 0, 0, 0, 0, 1 } },
         { "fill 255 is on, saved as 1", Bytes { 1, 1, 0, 0, 0, 255, 1 }, { 1, 1, 0, 1, 0, 1, 1 },
@@ -104,12 +102,8 @@ TEST_F(SettingsTest, UnmappedValuesShortenTheFileAndShiftLaterFields)
         int pointStyle;
         Bytes after; // over seven 9s
     };
-    const Case cases[] = {
-        { 1000, 3, 0, { 1, 1, 0, 0, 0, 1, 9 } },
-        { 1000, 1, 4, { 1, 1, 0, 0, 0, 1, 9 } },
-        { 3000, 1, 0, { 1, 0, 0, 0, 0, 1, 9 } },
-        { 1500, 7, 5, { 1, 0, 0, 1, 9, 9, 9 } },
-    };
+    const Case cases[] = { { 1000, 3, 0, { 1, 1, 0, 0, 0, 1, 9 } }, { 1000, 1, 4, { 1, 1, 0, 0, 0, 1, 9 } },
+        { 3000, 1, 0, { 1, 0, 0, 0, 0, 1, 9 } }, { 1500, 7, 5, { 1, 0, 0, 1, 9, 9, 9 } } };
     settings.LoadSettings(); // port 1, width 0, fill off, grid on
     for (const Case& c : cases) {
         Write(Bytes(7, 9));
