@@ -3,12 +3,11 @@
 #include "fakes/TestRig.h"
 #include "io/ModalGate.h"
 #include "io/QtSerialPortAdapter.h"
-#include "io/TestPty.h"
+#include "io/TestSupport.h"
 #include "link/FrameDecoder.h"
 #include "link/SerialLink.h"
 
 #include <QProcess>
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
@@ -24,7 +23,7 @@ TEST(VirtualMeterEndToEnd, ReadingsArriveInTheState)
     ASSERT_TRUE(meter.waitForReadyRead(5000));
     const QByteArray device = meter.readLine().trimmed();
     ASSERT_TRUE(device.startsWith("/dev/")) << device.toStdString();
-    setenv("VENTRIX_COM1", device.constData(), 1);
+    ventrix::testing::ScopedEnv com1("VENTRIX_COM1", device.constData());
 
     ventrix::fakes::TestRig rig;
     ventrix::io::ModalGate gate;
@@ -47,17 +46,14 @@ TEST(VirtualMeterEndToEnd, ReadingsArriveInTheState)
 
     // The demonstration opens with two seconds of volts DC; a few frames at most are lost to
     // alignment.
-    const bool arrived = SpinUntil([&] { return rig.state.HasNewFrame; }, 5s);
-    EXPECT_TRUE(arrived) << "no frame accepted";
-    if (arrived) {
-        EXPECT_EQ(rig.state.FunctionKind, 0);
-        EXPECT_EQ(rig.state.UnitLabel, "V");
-        EXPECT_EQ(rig.state.DecimalDivisor, 1000);
-        EXPECT_FALSE(rig.state.AwaitingAbsoluteReading);
-        EXPECT_EQ(rig.controls.MODE_LBL.Caption(), "V");
-        EXPECT_EQ(rig.controls.AUTO_LBL.Caption(), "AUTO");
-        EXPECT_TRUE(rig.unlinkTimer.Enabled());
-    }
+    ASSERT_TRUE(SpinUntil([&] { return rig.state.HasNewFrame; }, 5s)) << "no frame accepted";
+    EXPECT_EQ(rig.state.FunctionKind, 0);
+    EXPECT_EQ(rig.state.UnitLabel, "V");
+    EXPECT_EQ(rig.state.DecimalDivisor, 1000);
+    EXPECT_FALSE(rig.state.AwaitingAbsoluteReading);
+    EXPECT_EQ(rig.controls.MODE_LBL.Caption(), "V");
+    EXPECT_EQ(rig.controls.AUTO_LBL.Caption(), "AUTO");
+    EXPECT_TRUE(rig.unlinkTimer.Enabled());
 
     link.StopAcquisition();
     EXPECT_FALSE(port.IsOpen());
@@ -68,7 +64,6 @@ TEST(VirtualMeterEndToEnd, ReadingsArriveInTheState)
     EXPECT_FALSE(rig.state.HasNewFrame);
     EXPECT_TRUE(SpinUntil([&] { return rig.state.HasNewFrame; }, 5s)) << "no frame after a restart";
     link.StopAcquisition();
-    unsetenv("VENTRIX_COM1");
 
     meter.terminate();
     ASSERT_TRUE(meter.waitForFinished(3000));

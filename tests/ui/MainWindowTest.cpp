@@ -1,27 +1,27 @@
 #include "ui/MainWindow.h"
 #include "app/MainForm.h"
 #include "fakes/TestRig.h"
-#include "io/EventLoopHelpers.h"
 #include "io/ModalGate.h"
+#include "io/TestSupport.h"
 #include "ui/DialKnob.h"
 #include "ui/QtShell.h"
 #include "ui/QwtGraphAdapter.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
 namespace ventrix::ui {
 namespace {
+
+using namespace std::chrono_literals;
 
 struct WindowRig {
     io::ModalGate gate;
@@ -37,8 +37,8 @@ struct WindowRig {
 TEST(MainWindowTest, EveryNamedControlHasItsWidget)
 {
     WindowRig rig;
-    EXPECT_TRUE(rig.window.UnboundControls().empty())
-        << "first unbound: " << (rig.window.UnboundControls().empty() ? "" : rig.window.UnboundControls()[0]);
+    const auto unbound = rig.window.UnboundControls();
+    EXPECT_TRUE(unbound.empty()) << "first unbound: " << (unbound.empty() ? "" : unbound[0]);
     int found = 0;
     rig.controls.ForEach([&](platform::Control& control) {
         const QString name = QString::fromStdString(control.Name());
@@ -67,20 +67,14 @@ TEST(MainWindowTest, ModelChangesShowInTheirWidgets)
 
     c.MAIN_FRM.SetCaption("Ventrix 1.0");
     EXPECT_EQ(rig.window.windowTitle(), "Ventrix 1.0");
-
     c.CMD_STOP.SetEnabled(false);
     EXPECT_FALSE(rig.Find<QToolButton>("CMD_STOP")->isEnabled());
-    EXPECT_EQ(rig.Find<QToolButton>("CMD_PLAY")->text(), "Play");
-    EXPECT_EQ(rig.Find<QToolButton>("CMD_PLAY")->toolTip(), "Start acquisition");
-
     c.MENU_STOP.SetEnabled(false);
     EXPECT_FALSE(rig.Find<QAction>("MENU_STOP")->isEnabled());
-    EXPECT_EQ(rig.Find<QAction>("MENU_SAVE_GRAPG_AS")->text(), "Save Graph As...");
-    EXPECT_EQ(rig.Find<QMenu>("option")->title(), "&Option");
     c.COM.SetEnabled(false);
     EXPECT_FALSE(rig.Find<QMenu>("COM")->menuAction()->isEnabled());
 
-    EXPECT_TRUE(rig.Find<QAction>("WIDTH3")->isChecked()) << "check marks of the design";
+    EXPECT_TRUE(rig.Find<QAction>("WIDTH3")->isChecked()) << "the initial check marks are shown";
     c.WIDTH_ITEMS[3].SetChecked(false);
     c.WIDTH_ITEMS[1].SetChecked(true);
     EXPECT_FALSE(rig.Find<QAction>("WIDTH3")->isChecked());
@@ -90,9 +84,6 @@ TEST(MainWindowTest, ModelChangesShowInTheirWidgets)
     EXPECT_TRUE(rig.Find<QLabel>("NEG_LBL")->isHidden());
     c.DIGIT_LBL.SetCaption("1.234");
     EXPECT_EQ(rig.Find<QLabel>("DIGIT_LBL")->text(), "1.234");
-    c.X1_VAL_LBL.SetEnabled(false);
-    EXPECT_FALSE(rig.Find<QLabel>("X1_VAL_LBL")->isEnabled());
-    EXPECT_EQ(rig.Find<QLabel>("X1_X2_LBL")->text(), "X1-X2");
 
     c.AMPLITUDE_COMBO.AddItem("AUTO Amplitude Scale");
     c.AMPLITUDE_COMBO.AddItem("4n");
@@ -106,20 +97,16 @@ TEST(MainWindowTest, ModelChangesShowInTheirWidgets)
 
     c.MEMORY_BAR.SetValue(42.6);
     c.MEMORY_BAR.SetCaption("7199 Min");
-    auto* memory = rig.Find<QProgressBar>("MEMORY_BAR");
-    EXPECT_EQ(memory->value(), 43);
-    EXPECT_EQ(memory->text(), "7199 Min");
+    EXPECT_EQ(rig.Find<QProgressBar>("MEMORY_BAR")->value(), 43);
+    EXPECT_EQ(rig.Find<QProgressBar>("MEMORY_BAR")->text(), "7199 Min");
 
     auto* log = rig.Find<QPlainTextEdit>("DATA_LOG_TXT");
     EXPECT_TRUE(log->isReadOnly());
-    c.DATA_LOG_TXT.SetText("10:00:00 AM        1.234 V\r\n");
     c.DATA_LOG_TXT.SetText("10:00:00 AM        1.234 V\r\n10:00:01 AM        25.0 °C\r\n");
     c.DATA_LOG_TXT.SetCaret(c.DATA_LOG_TXT.Text().size());
     EXPECT_EQ(log->toPlainText().toStdString(), "10:00:00 AM        1.234 V\n10:00:01 AM        25.0 °C\n");
     EXPECT_EQ(log->textCursor().position(), log->toPlainText().size())
         << "caret counted in bytes, shown in chars";
-    c.DATA_LOG_TXT.SetText("");
-    EXPECT_TRUE(log->toPlainText().isEmpty());
 
     // A tool bar button is hidden through its tool bar action.
     c.CMD_EXCEL.SetVisible(false);
@@ -132,7 +119,7 @@ TEST(MainWindowTest, ModelChangesShowInTheirWidgets)
     EXPECT_TRUE(hidden);
 }
 
-TEST(MainWindowTest, UserActionsReachTheModels)
+TEST(MainWindowTest, UserActionsReachTheModelsAndTheModelHasTheLastWord)
 {
     WindowRig rig;
     auto& c = rig.controls;
@@ -140,35 +127,26 @@ TEST(MainWindowTest, UserActionsReachTheModels)
     c.CMD_PLAY.SetOnClick([&] { ++plays; });
     rig.Find<QToolButton>("CMD_PLAY")->click();
     EXPECT_EQ(plays, 1);
-
-    int pageUps = 0;
-    c.CMD_PAGEUP.SetOnClick([&] { ++pageUps; });
-    rig.Find<QAbstractButton>("CMD_PAGEUP")->click();
-    EXPECT_EQ(pageUps, 1);
+    c.CMD_PLAY.SetEnabled(false);
+    rig.Find<QToolButton>("CMD_PLAY")->click();
+    EXPECT_EQ(plays, 1) << "a disabled control does not reach its handler";
 
     // The model decides the check marks: an exclusive group handler, as the option menu has.
-    auto checkOnly = [&](std::size_t chosen) {
-        for (std::size_t i = 0; i < c.COM_ITEMS.size(); ++i)
-            c.COM_ITEMS[i].SetChecked(i == chosen);
-    };
     for (std::size_t i = 0; i < c.COM_ITEMS.size(); ++i)
-        c.COM_ITEMS[i].SetOnClick([&checkOnly, i] { checkOnly(i); });
+        c.COM_ITEMS[i].SetOnClick([&c, i] {
+            for (std::size_t k = 0; k < c.COM_ITEMS.size(); ++k)
+                c.COM_ITEMS[k].SetChecked(k == i);
+        });
     rig.Find<QAction>("COM3")->trigger();
     EXPECT_TRUE(c.COM_ITEMS[2].Checked());
     EXPECT_FALSE(c.COM_ITEMS[0].Checked());
     EXPECT_FALSE(rig.Find<QAction>("COM1")->isChecked());
     rig.Find<QAction>("COM3")->trigger(); // clicking the checked entry keeps it checked
     EXPECT_TRUE(rig.Find<QAction>("COM3")->isChecked());
-
     // An entry without a handler does not get a check mark from Qt alone.
     rig.Find<QAction>("FILL")->trigger();
     EXPECT_FALSE(c.FILL.Checked());
     EXPECT_FALSE(rig.Find<QAction>("FILL")->isChecked());
-
-    int exits = 0;
-    c.Exit.SetOnClick([&] { ++exits; });
-    rig.Find<QAction>("Exit")->trigger();
-    EXPECT_EQ(exits, 1);
 
     c.GRAPH_MODE_COMBO.AddItem("Zoom");
     c.GRAPH_MODE_COMBO.AddItem("Pan");
@@ -183,81 +161,12 @@ TEST(MainWindowTest, UserActionsReachTheModels)
     EXPECT_EQ(selections, 1);
     mode->setCurrentIndex(0); // a programmatic change is not a user's choice
     EXPECT_EQ(c.GRAPH_MODE_COMBO.ListIndex(), 2);
-}
-
-TEST(MainWindowTest, AModelThatRefusesAChangeIsShownAsItStays)
-{
-    WindowRig rig;
-    auto& combo = rig.controls.SAMPLE_COMBO;
-    combo.AddItem("AUTO Sample Scale");
-    combo.AddItem("10 samples");
-    combo.SetListIndex(0);
     // A handler that puts the list back, as a list locked during some state would.
-    combo.SetOnSelect([&] { combo.SetListIndex(0); });
-    auto* widget = rig.Find<QComboBox>("SAMPLE_COMBO");
-    widget->setCurrentIndex(1);
-    emit widget->activated(1);
-    EXPECT_EQ(combo.ListIndex(), 0);
-    EXPECT_EQ(widget->currentIndex(), 0);
-
-    rig.controls.CMD_RESET.SetEnabled(false);
-    int resets = 0;
-    rig.controls.CMD_RESET.SetOnClick([&] { ++resets; });
-    rig.Find<QAbstractButton>("CMD_RESET")->click();
-    EXPECT_EQ(resets, 0);
-}
-
-TEST(MainWindowTest, CloseAsksTheHandlerAndHonoursCancel)
-{
-    WindowRig rig;
-    rig.window.show();
-    int asked = 0;
-    int answerCancel = 1;
-    rig.window.SetCloseHandler([&](int& cancel) {
-        ++asked;
-        EXPECT_EQ(cancel, 0);
-        cancel = answerCancel;
-    });
-    EXPECT_FALSE(rig.window.close());
-    EXPECT_TRUE(rig.window.isVisible());
-    EXPECT_EQ(asked, 1);
-
-    answerCancel = 0;
-    EXPECT_TRUE(rig.window.close());
-    EXPECT_FALSE(rig.window.isVisible());
-    EXPECT_EQ(asked, 2);
-
-    rig.window.show();
-    rig.window.CloseWithoutAsking();
-    EXPECT_FALSE(rig.window.isVisible());
-    EXPECT_EQ(asked, 2);
-}
-
-TEST(MainWindowTest, EndingTheProgramFromTheCloseQuestionClosesOnce)
-{
-    WindowRig rig;
-    QtShell shell;
-    shell.SetOnEnd([&] { rig.window.CloseWithoutAsking(); });
-    rig.window.show();
-    int asked = 0;
-    rig.window.SetCloseHandler([&](int&) {
-        ++asked;
-        shell.EndProgram(); // the answer Yes ends the program from inside the close request
-    });
-    // The program ends from inside the application's running event loop, as it does for real.
-    bool closed = false;
-    QTimer start;
-    start.setSingleShot(true);
-    QObject::connect(&start, &QTimer::timeout, [&] { closed = rig.window.close(); });
-    start.start(0);
-    QTimer timeout;
-    timeout.setSingleShot(true);
-    QObject::connect(&timeout, &QTimer::timeout, [] { QCoreApplication::exit(1); });
-    timeout.start(5000);
-    EXPECT_EQ(QApplication::exec(), 0) << "the event loop was left with exit code 0";
-    EXPECT_TRUE(closed);
-    EXPECT_FALSE(rig.window.isVisible());
-    EXPECT_EQ(asked, 1);
+    c.GRAPH_MODE_COMBO.SetOnSelect([&] { c.GRAPH_MODE_COMBO.SetListIndex(2); });
+    mode->setCurrentIndex(1);
+    emit mode->activated(1);
+    EXPECT_EQ(c.GRAPH_MODE_COMBO.ListIndex(), 2);
+    EXPECT_EQ(mode->currentIndex(), 2);
 }
 
 TEST(MainWindowTest, TheQuitQuestionAnsweredNoKeepsTheWindowOpen)
@@ -271,10 +180,33 @@ TEST(MainWindowTest, TheQuitQuestionAnsweredNoKeepsTheWindowOpen)
     window.show();
     fakes.dialogs.answers.push_back(platform::MessageResult::No);
     window.close();
-    if (fakes.dialogs.boxes.empty())
-        GTEST_SKIP() << "the form does not ask before closing yet";
+    EXPECT_EQ(fakes.dialogs.boxes.size(), 1u) << "the form asks before closing";
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(fakes.shell.endCount, 0);
+}
+
+TEST(MainWindowTest, EndingTheProgramFromTheCloseQuestionClosesOnce)
+{
+    WindowRig rig;
+    QtShell shell;
+    shell.SetOnEnd([&] { rig.window.CloseWithoutAsking(); });
+    rig.window.show();
+    int asked = 0;
+    rig.window.SetCloseHandler([&](int& cancel) {
+        ++asked;
+        EXPECT_EQ(cancel, 0);
+        shell.EndProgram(); // the answer Yes ends the program from inside the close request
+    });
+    // The program ends from inside the application's running event loop, as it does for real.
+    bool closed = false;
+    QTimer::singleShot(0, [&] { closed = rig.window.close(); });
+    QTimer timeout;
+    QObject::connect(&timeout, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+    timeout.start(5000);
+    EXPECT_EQ(QApplication::exec(), 0) << "the event loop was left with exit code 0";
+    EXPECT_TRUE(closed);
+    EXPECT_FALSE(rig.window.isVisible());
+    EXPECT_EQ(asked, 1);
 }
 
 TEST(MainWindowTest, SmallWindowsScrollAndTheUsualSizeFitsAcross)
@@ -282,16 +214,13 @@ TEST(MainWindowTest, SmallWindowsScrollAndTheUsualSizeFitsAcross)
     WindowRig rig;
     rig.window.show();
     auto* horizontal = rig.Find<QScrollBar>("HScroll");
-    auto* vertical = rig.Find<QScrollBar>("VScroll");
-
     rig.window.resize(1024, 700);
-    testing::SpinEvents(50);
+    testing::Spin(50ms);
     EXPECT_EQ(horizontal->maximum(), 0) << "1024 pixels wide needs no sideways scrolling";
-
     rig.window.resize(600, 400);
-    testing::SpinEvents(50);
+    testing::Spin(50ms);
     EXPECT_GT(horizontal->maximum(), 0);
-    EXPECT_GT(vertical->maximum(), 0);
+    EXPECT_GT(rig.Find<QScrollBar>("VScroll")->maximum(), 0);
     EXPECT_TRUE(horizontal->isVisible());
 }
 

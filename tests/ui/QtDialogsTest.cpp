@@ -1,11 +1,9 @@
 #include "ui/QtDialogs.h"
-#include "io/EventLoopHelpers.h"
 #include "io/ModalGate.h"
+#include "io/TestSupport.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace ventrix::ui {
@@ -52,35 +50,8 @@ TEST(QtDialogsTest, StartPathJoinsDirectoryAndFile)
     }
 }
 
-// Shows one box and answers it with the given button once it is on screen; reports what the
-// box looked like and whether the gate was held meanwhile.
-struct Shown {
-    MessageResult result {};
-    QString title;
-    QString text;
-    QMessageBox::Icon icon {};
-    QMessageBox::StandardButtons buttons {};
-    bool gateHeld = false;
-};
-
-Shown ShowAndAnswer(MessageButtons buttons, MessageIcon icon, QMessageBox::StandardButton answer)
-{
-    io::ModalGate gate;
-    QtDialogs dialogs(gate);
-    Shown shown;
-    testing::WhenModalShown<QMessageBox>([&](QMessageBox* box) {
-        shown.title = box->windowTitle();
-        shown.text = box->text();
-        shown.icon = box->icon();
-        shown.buttons = box->standardButtons();
-        shown.gateHeld = gate.IsHeld();
-        box->button(answer)->click();
-    });
-    shown.result = dialogs.MessageBox("Are you sure to quit?", buttons, icon, "Ventrix");
-    EXPECT_FALSE(gate.IsHeld()) << "the gate must be released after the box";
-    return shown;
-}
-
+// Each box is answered once it is on screen, by its button or (NoButton) by Escape; the box must
+// look as asked, hold the gate while it is open and release it afterwards.
 TEST(QtDialogsTest, MessageBoxesShowTheirButtonsAndReturnTheAnswer)
 {
     const struct {
@@ -95,27 +66,29 @@ TEST(QtDialogsTest, MessageBoxesShowTheirButtonsAndReturnTheAnswer)
             QMessageBox::Question, MessageResult::Yes },
         { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::No, QMessageBox::Yes | QMessageBox::No,
             QMessageBox::Question, MessageResult::No },
+        { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::NoButton,
+            QMessageBox::Yes | QMessageBox::No, QMessageBox::Question, MessageResult::No },
         { MessageButtons::Ok, MessageIcon::Exclamation, QMessageBox::Ok, QMessageBox::Ok,
             QMessageBox::Warning, MessageResult::Ok },
     };
     for (const auto& c : cases) {
-        const Shown shown = ShowAndAnswer(c.buttons, c.icon, c.click);
-        EXPECT_EQ(shown.result, c.expected);
-        EXPECT_EQ(shown.buttons, c.expectedButtons);
-        EXPECT_EQ(shown.icon, c.expectedIcon);
-        EXPECT_EQ(shown.title.toStdString(), "Ventrix");
-        EXPECT_EQ(shown.text.toStdString(), "Are you sure to quit?");
-        EXPECT_TRUE(shown.gateHeld);
+        SCOPED_TRACE(static_cast<int>(c.click));
+        io::ModalGate gate;
+        QtDialogs dialogs(gate);
+        bool shown = false;
+        testing::WhenModalShown<QMessageBox>([&](QMessageBox* box) {
+            shown = true;
+            EXPECT_EQ(box->windowTitle().toStdString(), "Ventrix");
+            EXPECT_EQ(box->text().toStdString(), "Are you sure to quit?");
+            EXPECT_EQ(box->icon(), c.expectedIcon);
+            EXPECT_EQ(box->standardButtons(), c.expectedButtons);
+            EXPECT_TRUE(gate.IsHeld());
+            c.click == QMessageBox::NoButton ? box->reject() : box->button(c.click)->click();
+        });
+        EXPECT_EQ(dialogs.MessageBox("Are you sure to quit?", c.buttons, c.icon, "Ventrix"), c.expected);
+        EXPECT_TRUE(shown);
+        EXPECT_FALSE(gate.IsHeld()) << "the gate must be released after the box";
     }
-}
-
-TEST(QtDialogsTest, ClosingAQuestionWithEscapeAnswersNo)
-{
-    io::ModalGate gate;
-    QtDialogs dialogs(gate);
-    testing::WhenModalShown<QMessageBox>([](QMessageBox* box) { box->reject(); });
-    EXPECT_EQ(dialogs.MessageBox("Clear?", MessageButtons::YesNo, MessageIcon::Question, "Ventrix"),
-        MessageResult::No);
 }
 
 } // namespace

@@ -2,15 +2,11 @@
 #include "ui/SampleCurve.h"
 #include "ui/SampleSeries.h"
 
-#include <QImage>
-#include <QPainter>
 #include <gtest/gtest.h>
 #include <qwt_plot_grid.h>
-#include <qwt_plot_renderer.h>
 #include <qwt_scale_map.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace ventrix::ui {
 namespace {
@@ -95,16 +91,11 @@ TEST(QwtGraphAdapterTest, WidthFillAndGridReadBack)
     EXPECT_TRUE(graph.GridItem().yEnabled());
 }
 
-TEST(QwtGraphAdapterTest, AxesReadBackAndAutoScaleFollowsTheData)
+TEST(QwtGraphAdapterTest, AutoScaleFollowsTheDataAndHoldsWhenTurnedOff)
 {
     QwtGraphAdapter graph;
     graph.SetAxisMinimum(GraphAxis::YAxis1, -4.0);
     graph.SetAxisMaximum(GraphAxis::YAxis1, 4.0);
-    EXPECT_EQ(graph.AxisMinimum(GraphAxis::YAxis1), -4.0);
-    EXPECT_EQ(graph.AxisMaximum(GraphAxis::YAxis1), 4.0);
-    graph.SetAxisCaption(GraphAxis::XAxis, "Time");
-    EXPECT_EQ(graph.AxisCaption(GraphAxis::XAxis), "Time");
-
     for (double v : { 3.0, 17.0, -2.0, 9.0 })
         graph.AppendPoint(v);
     graph.SetAutoScale(GraphAxis::YAxis1, true);
@@ -129,39 +120,6 @@ TEST(QwtGraphAdapterTest, AxesReadBackAndAutoScaleFollowsTheData)
     EXPECT_EQ(graph.Samples().Count(), 0u);
 }
 
-// Renders the graph into an image and counts pixels of one colour.
-int CountPixels(QwtGraphAdapter& graph, const QColor& colour)
-{
-    graph.Redraw();
-    QImage image(400, 300, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    QwtPlotRenderer().render(&graph, &painter, QRectF(0, 0, 400, 300));
-    painter.end();
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += image.pixelColor(x, y) == colour ? 1 : 0;
-    return count;
-}
-
-TEST(QwtGraphAdapterTest, DrawsTheLineAndTheFillInTheScreenColours)
-{
-    QwtGraphAdapter graph;
-    graph.SetAxisMinimum(GraphAxis::XAxis, 0.0);
-    graph.SetAxisMaximum(GraphAxis::XAxis, 99.0);
-    graph.SetAxisMinimum(GraphAxis::YAxis1, -1.0);
-    graph.SetAxisMaximum(GraphAxis::YAxis1, 11.0);
-    EXPECT_EQ(CountPixels(graph, QwtGraphAdapter::kLineColour), 0) << "nothing to draw yet";
-    for (int i = 0; i < 100; ++i)
-        graph.AppendPoint(5.0 + 5.0 * std::sin(i / 10.0));
-    EXPECT_GT(CountPixels(graph, QwtGraphAdapter::kLineColour), 100);
-    EXPECT_EQ(CountPixels(graph, QwtGraphAdapter::kFillColour), 0);
-    graph.SetFillToBase(true);
-    EXPECT_GT(CountPixels(graph, QwtGraphAdapter::kFillColour), 1000);
-    EXPECT_GT(CountPixels(graph, QwtGraphAdapter::kAxisColour), 50) << "axes and labels are yellow";
-}
-
 QwtScaleMap Map(double s1, double s2, double pixels)
 {
     QwtScaleMap map;
@@ -172,29 +130,22 @@ QwtScaleMap Map(double s1, double s2, double pixels)
 
 TEST(SampleSeriesTest, DenseRunsThinToMinAndMaxPerColumn)
 {
-    SampleSeries series;
     constexpr int kCount = 432000;
-    for (int i = 0; i < kCount; ++i)
-        series.Append(i % 7); // values 0..6
     const int spike = 123457;
     const int dip = 300001;
     // A single extreme sample must survive thinning.
-    SampleSeries marked;
+    SampleSeries series;
     for (int i = 0; i < kCount; ++i)
-        marked.Append(i == spike ? 100.0 : i == dip ? -100.0 : i % 7);
+        series.Append(i == spike ? 100.0 : i == dip ? -100.0 : i % 7);
 
-    const QPolygonF points = marked.VisiblePoints(Map(0, kCount - 1, 1000), 1000);
+    const QPolygonF points = series.VisiblePoints(Map(0, kCount - 1, 1000), 1000);
     EXPECT_LE(points.size(), 2 * 1001 + 2);
-    const auto hasPoint = [&](double x, double y) {
-        return std::any_of(
-            points.begin(), points.end(), [&](const QPointF& p) { return p.x() == x && p.y() == y; });
-    };
-    EXPECT_TRUE(hasPoint(spike, 100.0));
-    EXPECT_TRUE(hasPoint(dip, -100.0));
+    for (const QPointF extreme : { QPointF(spike, 100.0), QPointF(dip, -100.0) })
+        EXPECT_TRUE(std::find(points.begin(), points.end(), extreme) != points.end()) << extreme.x();
     EXPECT_TRUE(std::is_sorted(points.begin(), points.end(), [](const QPointF& a, const QPointF& b) {
         return a.x() < b.x();
     })) << "points stay in the order they were taken";
-    EXPECT_EQ(series.BoundingRect(), QRectF(0, 0, kCount - 1, 6));
+    EXPECT_EQ(series.BoundingRect(), QRectF(0, -100, kCount - 1, 200));
 }
 
 TEST(SampleSeriesTest, SparseOrZoomedRunsKeepEverySampleInView)
