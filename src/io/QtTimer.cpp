@@ -20,12 +20,19 @@ QtTimer::~QtTimer()
 
 void QtTimer::SetInterval(int milliseconds)
 {
+    // Writing the interval a running timer already has keeps its countdown: the frame path
+    // re-arms the dial's timer on every frame, and a meter sending faster than the timer's
+    // interval must not keep it from ever ticking.
+    if (milliseconds == m_interval)
+        return;
     m_interval = milliseconds;
     Restart();
 }
 
 void QtTimer::SetEnabled(bool enabled)
 {
+    if (enabled == m_enabled)
+        return;
     m_enabled = enabled;
     Restart();
 }

@@ -10,7 +10,8 @@
 
 namespace ventrix::io {
 
-// A form timer on a QTimer. Setting the interval or enabling it restarts the countdown; an
+// A form timer on a QTimer. Changing the interval or enabling a disabled timer restarts the
+// countdown; writing the same interval or enabling an enabled timer leaves it running. An
 // interval of 0 or less never ticks. Ticks go through the modal gate, so none runs while a
 // message box or file dialog is open: at most one is kept and run after the box closes, and a
 // restart or disable drops it. The object carries the timer's name (UNLINK_TIMER ...) as its

@@ -4,8 +4,9 @@
 
 namespace ventrix::platform {
 
-// A form timer. Setting the interval or enabling it (again) restarts the countdown; the tick
-// handler runs every Interval() milliseconds while enabled.
+// A form timer. Changing the interval or enabling a disabled timer restarts the countdown
+// (disable, then enable, to restart it at will); the tick handler runs every Interval()
+// milliseconds while enabled.
 class Timer {
 public:
     virtual ~Timer() = default;

@@ -45,14 +45,23 @@ TEST(QtTimerTest, TicksOnlyWhileEnabledWithAPositiveInterval)
     EXPECT_TRUE(SpinUntil([&] { return rig.ticks > before; }, 200ms))
         << "a new interval on an enabled timer restarts it";
 
-    // Setting the interval restarts the countdown: restarted before it runs out, it never ticks.
+    // Disabling and enabling restarts the countdown: restarted before it runs out, it never
+    // ticks. Re-arming with the same interval, as the frame path does on every frame, keeps the
+    // countdown, so the timer still ticks however often it is re-armed.
     rig.timer.SetInterval(60);
     const int restarted = rig.ticks;
     for (int i = 0; i < 6; ++i) {
         Spin(25ms);
-        rig.timer.SetInterval(60);
+        rig.timer.SetEnabled(false);
+        rig.timer.SetEnabled(true);
     }
     EXPECT_EQ(rig.ticks, restarted);
+    for (int i = 0; i < 6; ++i) {
+        Spin(25ms);
+        rig.timer.SetInterval(60);
+        rig.timer.SetEnabled(true);
+    }
+    EXPECT_GT(rig.ticks, restarted);
 }
 
 TEST(QtTimerTest, TicksBehindAMessageBoxRunOnceWhenItCloses)
