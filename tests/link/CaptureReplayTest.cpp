@@ -39,20 +39,5 @@ TEST(CaptureReplayTest, ReportsEachFrameWithItsOffsetRefusalAndLogging)
             { 27, false, false, 15 }, { 36, false, true, 1 } }));
 }
 
-TEST(CaptureReplayTest, MisalignedStreamReportsOffsetsInTheInput)
-{
-    const std::string frame = MeterFrame(0, VoltsReading(77));
-    std::string stream = "\x11\x22\x33\x44\x55";
-    for (int i = 0; i < 30; ++i)
-        stream += frame;
-    std::vector<std::size_t> offsets;
-    CaptureReplay().Run(stream, [&](const CaptureReplay::Frame& f) { offsets.push_back(f.offset); });
-    ASSERT_GE(offsets.size(), 20u);
-    for (std::size_t i = 1; i < offsets.size(); ++i)
-        EXPECT_EQ(offsets[i], offsets[i - 1] + 9) << i;
-    EXPECT_EQ(offsets.back(), stream.size() - 9);
-    CaptureReplay().Run("", [](const CaptureReplay::Frame&) { ADD_FAILURE() << "no bytes, no frame"; });
-}
-
 } // namespace
 } // namespace ventrix::link

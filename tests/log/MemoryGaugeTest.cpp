@@ -16,7 +16,6 @@ TEST(MemoryGaugeTest, TextAndValueFollowTheLogAndTheInterval)
     };
     const Case cases[] = {
         { 0, 1, 1000, false, "5 Days 0 Hr 0 Min", 0 },
-        { 0, 1, 60000, false, "300 Days 0 Hr 0 Min", 0 },
         { 0, 1, 3000, false, "5 Days 0 Hr 0 Min", 0 }, // no menu interval: counted as 1 s
         { 0, 2, 1000, false, "4 Days 23 Hrs 59 Mins", 1 },
         { 341, 941, 1000, false, "1 Day 1 Hr 1 Min", 341940 },
@@ -38,29 +37,6 @@ TEST(MemoryGaugeTest, TextAndValueFollowTheLogAndTheInterval)
         EXPECT_EQ(bar.Caption(), c.text);
         EXPECT_NEAR(bar.Value(), 100.0 - c.used / 4320.0, 1e-9);
     }
-}
-
-TEST(MemoryGaugeTest, RedrawsOnlyWhenTheTextChangesUnlessFull)
-{
-    app::AppState state;
-    state.PageFill = 2;
-    platform::SlideBar bar("MEMORY_BAR");
-    MemoryGauge gauge(state, bar);
-    gauge.UpdateMemoryGauge();
-    const double value = bar.Value();
-    int writes = 0;
-    bar.SetObserver([&] { ++writes; });
-
-    state.PageFill = 3; // one second less, same minute: nothing moves
-    gauge.UpdateMemoryGauge();
-    EXPECT_EQ(writes, 0);
-    EXPECT_EQ(bar.Value(), value);
-
-    state.IsBufferFull = true; // full: "0 Min" and 0 whatever the bar showed
-    bar.SetCaption("0 Min");
-    bar.SetValue(55.0);
-    gauge.UpdateMemoryGauge();
-    EXPECT_EQ(bar.Value(), 0.0);
 }
 
 } // namespace

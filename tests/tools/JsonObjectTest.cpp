@@ -13,18 +13,9 @@ TEST(JsonObject, QuotesStringsAsJsonRequires)
         std::string in;
         std::string out;
     } cases[] = {
-        { "", "\"\"" },
-        { "say \"hi\" \\ there", "\"say \\\"hi\\\" \\\\ there\"" },
-        { "a\nb\tc\rd\be\ff", "\"a\\nb\\tc\\rd\\be\\ff\"" },
-        { std::string("\x01\x1f\0", 3), "\"\\u0001\\u001f\\u0000\"" },
-        { "\x7f", "\"\x7f\"" },
-        { "° € \xF0\x9F\x98\x80", "\"° € \xF0\x9F\x98\x80\"" }, // 2-, 3- and 4-byte UTF-8 pass through
-        // Broken UTF-8 becomes U+FFFD: a lone Latin-1 byte, a cut-off sequence, an overlong
-        // form, a surrogate.
-        { std::string("\xB0") + "C", std::string("\"\xEF\xBF\xBD") + "C\"" },
-        { "\xC2", "\"\xEF\xBF\xBD\"" },
-        { "\xC0\xAF", "\"\xEF\xBF\xBD\xEF\xBF\xBD\"" },
-        { "\xED\xA0\x80", "\"\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\"" },
+        { "say \"hi\"\n", "\"say \\\"hi\\\"\\n\"" }, { std::string("\x01\0", 2), "\"\\u0001\\u0000\"" },
+        { "23 °C", "\"23 °C\"" }, // UTF-8 passes through
+        { std::string("\xB0") + "C", std::string("\"\xEF\xBF\xBD") + "C\"" }, // a lone Latin-1 byte
     };
     for (const auto& c : cases)
         EXPECT_EQ(JsonObject::Quote(c.in), c.out);

@@ -21,8 +21,6 @@
 namespace ventrix::ui {
 namespace {
 
-using namespace std::chrono_literals;
-
 struct WindowRig {
     io::ModalGate gate;
     platform::MainControls controls;
@@ -207,35 +205,6 @@ TEST(MainWindowTest, EndingTheProgramFromTheCloseQuestionClosesOnce)
     EXPECT_TRUE(closed);
     EXPECT_FALSE(rig.window.isVisible());
     EXPECT_EQ(asked, 1);
-}
-
-TEST(MainWindowTest, SmallWindowsScrollAndTheUsualSizeFitsAcross)
-{
-    WindowRig rig;
-    rig.window.show();
-    auto* horizontal = rig.Find<QScrollBar>("HScroll");
-    rig.window.resize(1024, 700);
-    testing::Spin(50ms);
-    EXPECT_EQ(horizontal->maximum(), 0) << "1024 pixels wide needs no sideways scrolling";
-    rig.window.resize(600, 400);
-    testing::Spin(50ms);
-    EXPECT_GT(horizontal->maximum(), 0);
-    EXPECT_GT(rig.Find<QScrollBar>("VScroll")->maximum(), 0);
-    EXPECT_TRUE(horizontal->isVisible());
-}
-
-TEST(QtShellTest, BusyPointerIsSetOnceAndRestored)
-{
-    QtShell shell;
-    ASSERT_EQ(QApplication::overrideCursor(), nullptr);
-    shell.SetBusyPointer(true);
-    shell.SetBusyPointer(true);
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    shell.SetBusyPointer(false);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    shell.SetBusyPointer(false);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 } // namespace

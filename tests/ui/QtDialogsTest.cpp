@@ -13,41 +13,16 @@ using platform::MessageButtons;
 using platform::MessageIcon;
 using platform::MessageResult;
 
-TEST(QtDialogsTest, FiltersBecomeQtFilters)
+TEST(QtDialogsTest, FiltersAndStartPathsBecomeQtOnes)
 {
-    const struct {
-        const char* filter;
-        const char* expected;
-    } cases[] = {
-        { "*.gph|*.gph", "*.gph (*.gph)" },
-        { "Graph Files|*.gph|All Files|*.*", "Graph Files (*.gph);;All Files (*.*)" },
-        { "Text (*.txt)|*.txt", "Text (*.txt)" },
-        { "Logs|*.txt;*.log", "Logs (*.txt *.log)" },
-        { "", "" },
-        { "dangling", "" },
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(QtDialogs::ToQtFilter(c.filter).toStdString(), c.expected) << c.filter;
-}
-
-TEST(QtDialogsTest, StartPathJoinsDirectoryAndFile)
-{
-    const struct {
-        const char* directory;
-        const char* file;
-        const char* expected;
-    } cases[] = {
-        { "/data", "run.gph", "/data/run.gph" },
-        { "/data", "", "/data" },
-        { "", "run.gph", "run.gph" },
-        { "/data", "/elsewhere/run.gph", "/elsewhere/run.gph" },
-    };
-    for (const auto& c : cases) {
-        platform::FileDialogRequest request;
-        request.initialDirectory = c.directory;
-        request.fileName = c.file;
-        EXPECT_EQ(QtDialogs::StartPath(request).toStdString(), c.expected) << c.directory << " + " << c.file;
-    }
+    EXPECT_EQ(QtDialogs::ToQtFilter("Graph Files|*.gph|All Files|*.*").toStdString(),
+        "Graph Files (*.gph);;All Files (*.*)");
+    platform::FileDialogRequest request;
+    request.initialDirectory = "/data";
+    request.fileName = "run.gph";
+    EXPECT_EQ(QtDialogs::StartPath(request).toStdString(), "/data/run.gph");
+    request.fileName = "/elsewhere/run.gph";
+    EXPECT_EQ(QtDialogs::StartPath(request).toStdString(), "/elsewhere/run.gph");
 }
 
 // Each box is answered once it is on screen, by its button or (NoButton) by Escape; the box must
@@ -64,8 +39,6 @@ TEST(QtDialogsTest, MessageBoxesShowTheirButtonsAndReturnTheAnswer)
     } cases[] = {
         { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::Yes, QMessageBox::Yes | QMessageBox::No,
             QMessageBox::Question, MessageResult::Yes },
-        { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::No, QMessageBox::Yes | QMessageBox::No,
-            QMessageBox::Question, MessageResult::No },
         { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::NoButton,
             QMessageBox::Yes | QMessageBox::No, QMessageBox::Question, MessageResult::No },
         { MessageButtons::Ok, MessageIcon::Exclamation, QMessageBox::Ok, QMessageBox::Ok,
