@@ -6,6 +6,7 @@ packages=(
   qtbase5-dev libqt5serialport5-dev libqwt-qt5-dev libxlsxwriter-dev
   libgtest-dev libbenchmark-dev
   socat xvfb xauth fonts-dseg
+  clang libclang-rt-14-dev
 )
 missing=()
 for p in "${packages[@]}"; do
