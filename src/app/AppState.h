@@ -10,7 +10,7 @@ namespace ventrix::app {
 // or word index, multiplier code, function code.
 using SampleRecord = std::array<std::uint8_t, 8>;
 
-inline constexpr int kPageSize = 1000;   // records in one page of the sample log
+inline constexpr int kPageSize = 1000; // records in one page of the sample log
 inline constexpr int kMaxSwapPages = 432; // pages the swap file holds before the log is full
 
 // The state shared by every handler of the main window, for the life of the window. Field names

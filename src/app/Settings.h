@@ -19,7 +19,7 @@ public:
         const platform::AppPaths& paths, std::function<void()> updateMemoryGauge);
     void LoadSettings();
     void SaveSettings();
-    void SelectComPort(int port);       // COM1..COM4
+    void SelectComPort(int port); // COM1..COM4
     void SelectSampleRate(int seconds); // SEC1..SEC60
 
 private:

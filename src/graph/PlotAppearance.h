@@ -16,9 +16,9 @@ inline constexpr std::array<int, 7> kPointStyleCodes { 0, 1, 2, 22, 6, 3, 16 };
 class PlotAppearance {
 public:
     PlotAppearance(platform::MainControls& controls, platform::GraphControl& graph);
-    void SelectLineWidth(int width);   // WIDTH0..WIDTH5
-    void SelectLineStyle(int index);   // 0..4, menu order
-    void SelectPointStyle(int index);  // 0..6, menu order
+    void SelectLineWidth(int width); // WIDTH0..WIDTH5
+    void SelectLineStyle(int index); // 0..4, menu order
+    void SelectPointStyle(int index); // 0..6, menu order
     void ToggleFill();
     void ToggleGrid();
 

@@ -12,8 +12,7 @@ namespace ventrix::io {
 class ModalGate {
 public:
     // Runs a modal box under the gate.
-    template <typename F>
-    auto Hold(F&& showBox)
+    template <typename F> auto Hold(F&& showBox)
     {
         ++m_depth;
         struct Release {

@@ -38,8 +38,7 @@ public:
     void SetObserver(std::function<void()> observer) { m_observer = std::move(observer); }
 
 protected:
-    template <typename T, typename U>
-    void Assign(T& field, U&& value)
+    template <typename T, typename U> void Assign(T& field, U&& value)
     {
         field = std::forward<U>(value);
         Changed();

@@ -29,8 +29,8 @@ struct PrintDialogResult {
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
-    virtual MessageResult MessageBox(const std::string& text, MessageButtons buttons, MessageIcon icon,
-        const std::string& title)
+    virtual MessageResult MessageBox(
+        const std::string& text, MessageButtons buttons, MessageIcon icon, const std::string& title)
         = 0;
     virtual std::optional<std::string> ShowOpen(const FileDialogRequest& request) = 0;
     virtual std::optional<std::string> ShowSave(const FileDialogRequest& request) = 0;

@@ -3,12 +3,12 @@
 namespace ventrix::platform {
 
 namespace {
-    template <std::size_t N>
-    void Caption(std::array<MenuItem, N>& items, const std::array<const char*, N>& captions)
-    {
-        for (std::size_t i = 0; i < N; ++i)
-            items[i].SetCaption(captions[i]);
-    }
+template <std::size_t N>
+void Caption(std::array<MenuItem, N>& items, const std::array<const char*, N>& captions)
+{
+    for (std::size_t i = 0; i < N; ++i)
+        items[i].SetCaption(captions[i]);
+}
 } // namespace
 
 MainControls::MainControls()
@@ -108,12 +108,12 @@ void MainControls::ForEach(const std::function<void(Control&)>& visit)
 {
     for (Control* control : std::initializer_list<Control*> { &MAIN_FRM, &CMD_PLAY, &CMD_STOP, &CMD_SAVE,
              &CMD_EXCEL, &CMD_PRINT, &CMD_ZOOM, &CMD_EXIT, &CMD_PAGEUP, &CMD_PAGEDOWN, &CMD_RESET, &FILE_MENU,
-             &MENU_OPEN_GRAPH, &MENU_SAVE_GRAPH, &MENU_SAVE_GRAPG_AS, &Save, &Save_As, &Excel, &MENU_PRINT_GRAPH,
-             &Exit, &ACQUIRE_MENU, &MENU_START, &MENU_STOP, &CLEAR_LOG, &AUTO_ZOOM, &option, &COM, &RATE, &WIDTH,
-             &STYLE, &POINT, &FILL, &Grid, &HELP_MENU, &HELP_CONTENT, &HELP_INDEX, &HELP_ABOUT, &DIGIT_FRAME,
-             &DIGIT_LBL, &NEG_LBL, &MODE_LBL, &HOLD_LBL, &AUTO_LBL, &BATTERY_LBL, &MIN_LBL, &FUNCTION_LBL,
-             &GRAPH_MODE_COMBO, &AMPLITUDE_COMBO, &SAMPLE_COMBO, &DATA_LOG_TXT, &DEBUG_TEXT1, &MEMORY_BAR,
-             &picPRINT })
+             &MENU_OPEN_GRAPH, &MENU_SAVE_GRAPH, &MENU_SAVE_GRAPG_AS, &Save, &Save_As, &Excel,
+             &MENU_PRINT_GRAPH, &Exit, &ACQUIRE_MENU, &MENU_START, &MENU_STOP, &CLEAR_LOG, &AUTO_ZOOM,
+             &option, &COM, &RATE, &WIDTH, &STYLE, &POINT, &FILL, &Grid, &HELP_MENU, &HELP_CONTENT,
+             &HELP_INDEX, &HELP_ABOUT, &DIGIT_FRAME, &DIGIT_LBL, &NEG_LBL, &MODE_LBL, &HOLD_LBL, &AUTO_LBL,
+             &BATTERY_LBL, &MIN_LBL, &FUNCTION_LBL, &GRAPH_MODE_COMBO, &AMPLITUDE_COMBO, &SAMPLE_COMBO,
+             &DATA_LOG_TXT, &DEBUG_TEXT1, &MEMORY_BAR, &picPRINT })
         visit(*control);
     for (Label* label : CursorLabels())
         visit(*label);

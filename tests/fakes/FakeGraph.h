@@ -31,7 +31,10 @@ public:
 
     void ClearData() override;
     void AppendPoint(double value) override { points.push_back(value); }
-    void SetAxisCaption(platform::GraphAxis axis, const std::string& caption) override { Of(axis).caption = caption; }
+    void SetAxisCaption(platform::GraphAxis axis, const std::string& caption) override
+    {
+        Of(axis).caption = caption;
+    }
     void SetAxisMinimum(platform::GraphAxis axis, double value) override { Of(axis).minimum = value; }
     double AxisMinimum(platform::GraphAxis axis) const override { return Of(axis).minimum; }
     void SetAxisMaximum(platform::GraphAxis axis, double value) override { Of(axis).maximum = value; }
@@ -41,7 +44,10 @@ public:
     void Redraw() override { ++redraws; }
 
     Axis& Of(platform::GraphAxis axis) { return axis == platform::GraphAxis::XAxis ? xAxis : yAxis; }
-    const Axis& Of(platform::GraphAxis axis) const { return axis == platform::GraphAxis::XAxis ? xAxis : yAxis; }
+    const Axis& Of(platform::GraphAxis axis) const
+    {
+        return axis == platform::GraphAxis::XAxis ? xAxis : yAxis;
+    }
 
     int lineWidth = 3;
     int lineStyle = 1;
@@ -55,7 +61,10 @@ public:
     std::vector<std::string> calls; // "LineWidth=2", "GridX=1" ...
 
 private:
-    void Log(const char* what, int value) { calls.push_back(std::string(what) + "=" + std::to_string(value)); }
+    void Log(const char* what, int value)
+    {
+        calls.push_back(std::string(what) + "=" + std::to_string(value));
+    }
 };
 
 } // namespace ventrix::fakes

@@ -3,23 +3,22 @@
 namespace ventrix::fakes {
 
 namespace {
-    template <typename T>
-    T Next(std::deque<T>& script, T fallback)
-    {
-        if (script.empty())
-            return fallback;
-        T answer = script.front();
-        script.pop_front();
-        return answer;
-    }
+template <typename T> T Next(std::deque<T>& script, T fallback)
+{
+    if (script.empty())
+        return fallback;
+    T answer = script.front();
+    script.pop_front();
+    return answer;
+}
 } // namespace
 
 platform::MessageResult ScriptedDialogs::MessageBox(const std::string& text, platform::MessageButtons buttons,
     platform::MessageIcon icon, const std::string& title)
 {
     boxes.push_back({ text, buttons, icon, title });
-    const auto fallback = buttons == platform::MessageButtons::Ok ? platform::MessageResult::Ok
-                                                                   : platform::MessageResult::No;
+    const auto fallback
+        = buttons == platform::MessageButtons::Ok ? platform::MessageResult::Ok : platform::MessageResult::No;
     return Next(answers, fallback);
 }
 

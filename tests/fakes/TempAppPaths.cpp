@@ -19,8 +19,8 @@ TempAppPaths::TempAppPaths()
 TempAppPaths::~TempAppPaths()
 {
     std::error_code ignored;
-    std::filesystem::permissions(m_directory, std::filesystem::perms::owner_all,
-        std::filesystem::perm_options::add, ignored);
+    std::filesystem::permissions(
+        m_directory, std::filesystem::perms::owner_all, std::filesystem::perm_options::add, ignored);
     std::filesystem::remove_all(m_directory, ignored);
 }
 

@@ -34,8 +34,8 @@ struct TestRig {
     FakePrinter printer;
     TempAppPaths paths;
     FakeShell shell;
-    platform::Services services { serial, { unlinkTimer, sampleTimer, analogTimer, debugTimer }, clock, dialogs,
-        graph, knob, spreadsheet, printer, paths, shell };
+    platform::Services services { serial, { unlinkTimer, sampleTimer, analogTimer, debugTimer }, clock,
+        dialogs, graph, knob, spreadsheet, printer, paths, shell };
 };
 
 } // namespace ventrix::fakes

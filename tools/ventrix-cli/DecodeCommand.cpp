@@ -1,7 +1,7 @@
 #include "Commands.h"
 
-#include "ventrix-cli/CaptureJson.h"
 #include "link/CaptureReplay.h"
+#include "ventrix-cli/CaptureJson.h"
 
 #include <cerrno>
 #include <cstdio>
