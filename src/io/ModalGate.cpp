@@ -24,8 +24,16 @@ void ModalGate::Forget(const void* source)
 
 void ModalGate::Leave()
 {
-    if (--m_depth > 0)
+    if (--m_depth > 0 || m_deferred.empty() || m_drainPosted)
         return;
+    m_drainPosted = true;
+    QMetaObject::invokeMethod(
+        &m_context, [this] { Drain(); }, Qt::QueuedConnection);
+}
+
+void ModalGate::Drain()
+{
+    m_drainPosted = false;
     // A deferred event may open another box; whatever arrives then is deferred again.
     while (m_depth == 0 && !m_deferred.empty()) {
         Deferred next = std::move(m_deferred.front());

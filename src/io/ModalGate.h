@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+
 #include <functional>
 #include <vector>
 
@@ -7,8 +9,10 @@ namespace ventrix::io {
 
 // Keeps the single-threaded handler model while a modal box runs its own event loop: timer
 // ticks and serial receive events that arrive meanwhile are not run at once but deferred, one
-// per source however often it fired, and run in order of arrival once the last box is closed.
-// Shared by the dialog, timer and serial adapters of one program.
+// per source however often it fired, and run in order of arrival from the event loop once the
+// last box is closed, after the handler that showed the box has finished (so a stop or quit it
+// goes on to do can still Forget them). Shared by the dialog, timer and serial adapters of one
+// program.
 class ModalGate {
 public:
     // Runs a modal box under the gate.
@@ -31,13 +35,16 @@ public:
 
 private:
     void Leave();
+    void Drain();
 
     struct Deferred {
         const void* source;
         std::function<void()> event;
     };
     int m_depth = 0;
+    bool m_drainPosted = false;
     std::vector<Deferred> m_deferred;
+    QObject m_context; // receives the posted drain; a drain still queued dies with the gate
 };
 
 } // namespace ventrix::io

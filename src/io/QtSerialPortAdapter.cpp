@@ -3,6 +3,11 @@
 #include "io/PortNames.h"
 #include "io/SerialSettings.h"
 
+#ifdef Q_OS_LINUX
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#endif
+
 namespace ventrix::io {
 
 namespace {
@@ -37,6 +42,34 @@ QSerialPort::StopBits ToQt(SerialSettings::StopBits stopBits)
     return QSerialPort::OneStop;
 }
 
+// The device number behind a path, or 0.
+unsigned long DeviceNumber(const QString& path)
+{
+#ifdef Q_OS_LINUX
+    struct stat info { };
+    if (::stat(path.toLocal8Bit().constData(), &info) == 0)
+        return static_cast<unsigned long>(info.st_rdev);
+#else
+    (void)path;
+#endif
+    return 0;
+}
+
+// A pseudo-terminal whose other end has closed never comes back: a new one that gets the same
+// number is somebody else's terminal (a new terminal window, say) and must not be taken over.
+// A path that now leads to another pseudo-terminal, or a USB adapter plugged in again, is fine.
+bool IsSamePseudoTerminal(unsigned long before, unsigned long now)
+{
+#ifdef Q_OS_LINUX
+    const unsigned int major = ::major(static_cast<dev_t>(now));
+    return before != 0 && before == now && major >= 136 && major <= 143;
+#else
+    (void)before;
+    (void)now;
+    return false;
+#endif
+}
+
 } // namespace
 
 QtSerialPortAdapter::QtSerialPortAdapter(ModalGate& gate, QObject* parent)
@@ -47,6 +80,17 @@ QtSerialPortAdapter::QtSerialPortAdapter(ModalGate& gate, QObject* parent)
     connect(&m_serial, &QSerialPort::readyRead, this, &QtSerialPortAdapter::OnReadyRead);
     connect(&m_serial, &QSerialPort::errorOccurred, this, &QtSerialPortAdapter::OnError);
     connect(&m_reopen, &QTimer::timeout, this, &QtSerialPortAdapter::TryReopen);
+}
+
+QtSerialPortAdapter::~QtSerialPortAdapter()
+{
+    // Closing may report an error; no handler of a half-destroyed adapter may run then.
+    m_serial.disconnect(this);
+    m_reopen.stop();
+    if (m_serial.isOpen())
+        m_serial.close();
+    m_gate.Forget(this);
+    m_gate.Forget(&m_errorSource);
 }
 
 int QtSerialPortAdapter::EventCodeFor(QSerialPort::SerialPortError error)
@@ -89,6 +133,7 @@ bool QtSerialPortAdapter::Open()
     if (!OpenDevice())
         return false;
     m_device = device;
+    m_deviceNumber = DeviceNumber(device);
     m_buffer.clear();
     m_open = true;
     return true;
@@ -186,9 +231,14 @@ void QtSerialPortAdapter::TryReopen()
         m_reopen.stop();
         return;
     }
+    if (IsSamePseudoTerminal(m_deviceNumber, DeviceNumber(m_device)))
+        return;
     m_serial.setPortName(m_device);
-    if (OpenDevice())
+    if (OpenDevice()) {
+        m_deviceNumber = DeviceNumber(m_device);
         m_reopen.stop();
+        m_buffer.clear(); // a partial frame from before the device vanished
+    }
 }
 
 } // namespace ventrix::io

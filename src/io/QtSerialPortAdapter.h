@@ -17,11 +17,14 @@ namespace ventrix::io {
 // codes 1001 to 1011. When the device vanishes (USB adapter unplugged, pseudo-terminal closed)
 // the underlying port is closed at once, the port still counts as open for the handlers (the
 // line just falls silent, and the link supervision takes over) and the same device is opened
-// again every second until it is back or Close() is called. Knows nothing about frames.
+// again every second until it is back or Close() is called (a vanished pseudo-terminal's number
+// taken by a new terminal is not the device coming back). On Linux, Qt reports no parity, framing or break
+// errors, so there the line-error codes do not occur. Knows nothing about frames.
 class QtSerialPortAdapter : public QObject, public platform::SerialPort {
     Q_OBJECT
 public:
     explicit QtSerialPortAdapter(ModalGate& gate, QObject* parent = nullptr);
+    ~QtSerialPortAdapter() override;
 
     void SetSettings(const std::string& settings) override { m_settings = settings; }
     std::string Settings() const override { return m_settings; }
@@ -64,6 +67,7 @@ private:
     std::string m_buffer;
     std::function<void()> m_onComm;
     QString m_device;
+    unsigned long m_deviceNumber = 0;
     int m_port = 1;
     int m_threshold = 0;
     int m_inputLen = 0;

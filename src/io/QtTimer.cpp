@@ -54,9 +54,16 @@ void QtTimer::Restart()
 
 void QtTimer::OnTimeout()
 {
+    // A tick that falls due while this timer's own handler still runs (it is showing a box) is
+    // dropped, as the handler cannot be entered twice; the countdown goes on.
+    if (m_inTick)
+        return;
     m_gate.Dispatch(this, [this] {
-        if (m_enabled && m_onTick)
-            m_onTick();
+        if (!m_enabled || !m_onTick)
+            return;
+        m_inTick = true;
+        m_onTick();
+        m_inTick = false;
     });
 }
 

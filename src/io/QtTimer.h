@@ -37,6 +37,7 @@ private:
     std::function<void()> m_onTick;
     int m_interval = 0;
     bool m_enabled = false;
+    bool m_inTick = false;
 };
 
 } // namespace ventrix::io

@@ -1,6 +1,7 @@
 #include "io/QtSerialPortAdapter.h"
 #include "io/TestSupport.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -105,7 +106,8 @@ TEST(QtSerialPortAdapter, HoldsReceiveEventsWhileAModalBoxIsOpen)
         EXPECT_TRUE(rig.events.empty()) << "a serial handler ran inside a modal box";
         return 0;
     });
-    // Released: one event with both pieces.
+    // Released: one event with both pieces, from the event loop.
+    QCoreApplication::sendPostedEvents();
     ASSERT_EQ(rig.reads.size(), 1u);
     EXPECT_EQ(rig.reads[0], "123456789ABCDEFGHI");
 
@@ -116,6 +118,7 @@ TEST(QtSerialPortAdapter, HoldsReceiveEventsWhileAModalBoxIsOpen)
         rig.port.Close();
         return 0;
     });
+    QCoreApplication::sendPostedEvents();
     EXPECT_EQ(rig.reads.size(), 1u);
 }
 
@@ -155,8 +158,9 @@ TEST(QtSerialPortAdapter, VanishedDeviceIsRetriedQuietlyAndFoundAgainUnderTheSam
     rig.pty.Write("123456789");
     ASSERT_TRUE(SpinUntil([&] { return rig.reads.size() == 1; }, 2s));
 
-    // Unplugged: the device and its path go away (so another program's terminal cannot take the
-    // freed number while the adapter retries).
+    // The device that will come back is another pseudo-terminal under the same path (made now,
+    // so that it gets another number). Unplugged: the device and its path go away.
+    TestPty second;
     rig.pty.CloseMaster();
     std::filesystem::remove(link);
     ASSERT_TRUE(SpinUntil([&] { return !rig.port.IsDeviceAttached(); }, 2s));
@@ -169,10 +173,26 @@ TEST(QtSerialPortAdapter, VanishedDeviceIsRetriedQuietlyAndFoundAgainUnderTheSam
     EXPECT_EQ(rig.events.size(), 1u);
     EXPECT_TRUE(rig.port.IsOpen());
 
-    TestPty second;
     std::filesystem::create_symlink(second.SlavePath(), link);
     ASSERT_TRUE(SpinUntil([&] { return rig.port.IsDeviceAttached(); }, 2s));
     second.Write("ABCDEFGHI");
     ASSERT_TRUE(SpinUntil([&] { return rig.reads.size() == 2; }, 2s));
     EXPECT_EQ(rig.reads[1], "ABCDEFGHI");
+}
+
+TEST(QtSerialPortAdapter, DoesNotTakeOverANewTerminalWithTheVanishedOnesNumber)
+{
+    AdapterRig rig;
+    rig.port.SetReopenInterval(20);
+    ASSERT_TRUE(rig.port.Open());
+    const std::string vanished = rig.pty.SlavePath();
+    rig.pty.CloseMaster();
+    ASSERT_TRUE(SpinUntil([&] { return !rig.port.IsDeviceAttached(); }, 2000ms));
+    TestPty next; // the lowest free number: usually the one just freed
+    if (next.SlavePath() != vanished)
+        GTEST_SKIP() << "the new terminal got another number";
+    next.Write("typed at a shell");
+    Spin(200ms);
+    EXPECT_FALSE(rig.port.IsDeviceAttached());
+    EXPECT_TRUE(rig.allRead.empty());
 }

@@ -176,6 +176,9 @@ int RunMeter(int argc, char** argv)
         int pending = 0;
         if (ioctl(slave, FIONREAD, &pending) == 0 && pending > 0)
             tcflush(slave, TCIFLUSH);
+        // A reader that opened the line exclusively and then died without closing it would
+        // otherwise keep every later reader out until the meter is restarted.
+        ioctl(slave, TIOCNXCL);
 
         timespec byteDue = frameStart;
         for (unsigned char byte : pieces[k]) {
