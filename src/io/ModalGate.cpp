@@ -7,7 +7,8 @@ namespace ventrix::io {
 
 void ModalGate::Dispatch(const void* source, std::function<void()> event)
 {
-    if (m_depth == 0) {
+    // While held events wait for their drain, a new one queues behind them to keep the order.
+    if (m_depth == 0 && !m_drainPosted) {
         event();
         return;
     }
