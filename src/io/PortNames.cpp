@@ -10,10 +10,9 @@ namespace ventrix::io {
 namespace {
 
 #ifndef Q_OS_WIN
-ComPortAssignment Lookup(int n)
+// One look at the machine gives all four numbers their devices.
+std::array<ComPortAssignment, 4> LookupAll()
 {
-    if (n < 1 || n > 4)
-        return {};
     std::vector<SerialDeviceInfo> found;
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
         found.push_back({ info.systemLocation().toStdString(), info.description().toStdString(),
@@ -24,7 +23,14 @@ ComPortAssignment Lookup(int n)
             return std::nullopt;
         return value.toStdString();
     };
-    return AssignComPorts(std::move(found), fromEnvironment)[n - 1];
+    return AssignComPorts(std::move(found), fromEnvironment);
+}
+
+ComPortAssignment Lookup(int n)
+{
+    if (n < 1 || n > 4)
+        return {};
+    return LookupAll()[static_cast<std::size_t>(n - 1)];
 }
 #endif
 
@@ -46,6 +52,19 @@ QString DescribeComPort(int n)
 #else
     return QString::fromStdString(Lookup(n).description);
 #endif
+}
+
+QStringList DescribeComPorts()
+{
+    QStringList descriptions;
+#ifdef Q_OS_WIN
+    for (int n = 1; n <= 4; ++n)
+        descriptions << DescribeComPort(n);
+#else
+    for (const ComPortAssignment& port : LookupAll())
+        descriptions << QString::fromStdString(port.description);
+#endif
+    return descriptions;
 }
 
 } // namespace ventrix::io

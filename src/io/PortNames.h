@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace ventrix::io {
 
@@ -12,5 +13,7 @@ QString DeviceForComPort(int n);
 // One line telling which device COM n stands for, for the COM menu item's status tip,
 // e.g. "COM 1: /dev/ttyUSB0 (FT232R USB UART, FTDI)".
 QString DescribeComPort(int n);
+// The same for COM 1 to COM 4 at once, from one look at the machine's devices.
+QStringList DescribeComPorts();
 
 } // namespace ventrix::io

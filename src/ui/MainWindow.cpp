@@ -177,9 +177,10 @@ void MainWindow::BuildMenus()
     // the tips are renewed every time the submenu opens.
     QMenu* comMenu = option->findChild<QMenu*>(Name("COM"));
     auto describePorts = [this] {
+        const QStringList descriptions = io::DescribeComPorts();
         for (std::size_t i = 0; i < m_controls.COM_ITEMS.size(); ++i)
             if (auto* item = findChild<QAction*>(QString::fromStdString(m_controls.COM_ITEMS[i].Name())))
-                item->setStatusTip(io::DescribeComPort(static_cast<int>(i) + 1));
+                item->setStatusTip(descriptions.value(static_cast<int>(i)));
     };
     describePorts();
     connect(comMenu, &QMenu::aboutToShow, this, describePorts);

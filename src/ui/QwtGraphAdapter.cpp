@@ -208,19 +208,22 @@ std::string QwtGraphAdapter::AxisCaption(GraphAxis axis) const
 
 void QwtGraphAdapter::SetAxisMinimum(GraphAxis axis, double value)
 {
-    AxisState& state = m_axes[Index(axis)];
-    if (state.autoScale)
-        FreezeScale(axis);
-    state.minimum = value;
-    ApplyScale(axis);
+    SetAxisBound(axis, &AxisState::minimum, value);
 }
 
 void QwtGraphAdapter::SetAxisMaximum(GraphAxis axis, double value)
 {
+    SetAxisBound(axis, &AxisState::maximum, value);
+}
+
+void QwtGraphAdapter::SetAxisBound(GraphAxis axis, double AxisState::*bound, double value)
+{
+    // An explicit end takes the axis out of automatic scaling, keeping the other end where the
+    // automatic scale had put it.
     AxisState& state = m_axes[Index(axis)];
     if (state.autoScale)
         FreezeScale(axis);
-    state.maximum = value;
+    state.*bound = value;
     ApplyScale(axis);
 }
 

@@ -71,6 +71,7 @@ private:
     void ApplyPen();
     void ApplyScale(platform::GraphAxis axis);
     void FreezeScale(platform::GraphAxis axis);
+    void SetAxisBound(platform::GraphAxis axis, double AxisState::*bound, double value);
     void ScheduleReplot();
 
     SampleCurve* m_curve; // owned by the plot
