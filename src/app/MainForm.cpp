@@ -8,7 +8,6 @@ namespace ventrix::app {
 
 namespace {
 constexpr const char* kTitle = "Ventrix";
-constexpr int kUnlinkIntervalMs = 15000;
 constexpr int kAnalogIntervalMs = 200;
 constexpr double kEmptyGraphAmplitude = 40000000.0;
 
@@ -55,7 +54,6 @@ void MainForm::Form_Load()
     s.FunctionKind = 255;
 
     c.MAIN_FRM.SetCaption("Ventrix 1.0");
-    m_helpFilePath = m_services.paths.HelpFile();
 
     // The three lists beside the graph.
     Fill(c.GRAPH_MODE_COMBO, { "Zoom", "Pan", "Cursor" });
@@ -104,7 +102,7 @@ void MainForm::Form_Load()
     s.GaugeNeedle = 0.0;
     s.GaugeTarget = 0.0;
 
-    timers.UNLINK_TIMER.SetInterval(kUnlinkIntervalMs);
+    timers.UNLINK_TIMER.SetInterval(link::SerialLink::kUnlinkIntervalMs);
     timers.UNLINK_TIMER.SetEnabled(false);
     timers.ANALOG_TIMER.SetInterval(kAnalogIntervalMs);
     timers.ANALOG_TIMER.SetEnabled(false);
@@ -177,10 +175,7 @@ void MainForm::Form_Unload(int& cancel)
 
     if (m_services.MSComm1.IsOpen())
         m_services.MSComm1.Close();
-    m_services.timers.UNLINK_TIMER.SetInterval(kUnlinkIntervalMs);
-    m_services.timers.UNLINK_TIMER.SetEnabled(false);
-    m_services.timers.ANALOG_TIMER.SetEnabled(false);
-    m_services.timers.SAMPLE_TIMER.SetEnabled(false);
+    m_link.StopTimers();
     m_settings.SaveSettings();
     m_ended = true;
     m_services.shell.EndProgram();

@@ -10,8 +10,6 @@
 #include "platform/MainControls.h"
 #include "platform/Services.h"
 
-#include <filesystem>
-
 namespace ventrix::app {
 
 // The main window's handlers: owns the subsystems, wires every control, timer and the receive
@@ -37,9 +35,6 @@ public:
     graph::PlotAppearance& Appearance() { return m_appearance; }
     log::MemoryGauge& Memory() { return m_memory; }
 
-    // The help file beside the program, fixed by start-up.
-    const std::filesystem::path& HelpFilePath() const { return m_helpFilePath; }
-
 private:
     void WireControls();
     // Commands whose handlers are not written yet are disabled at start-up, so that nothing in
@@ -56,7 +51,6 @@ private:
     log::MemoryGauge m_memory;
     graph::PlotAppearance m_appearance;
     Settings m_settings;
-    std::filesystem::path m_helpFilePath;
     bool m_ended = false; // the program has been ended: a later close request asks nothing
 };
 

@@ -41,12 +41,14 @@ public:
 
     static constexpr int kFrameLength = 9;
     static constexpr int kUnlinkIntervalMs = 15000;
+    // UNLINK_TIMER back to 15000 ms and disabled, ANALOG_TIMER and SAMPLE_TIMER disabled: what
+    // every way out of acquiring (and the program's end) does to the timers.
+    void StopTimers();
 
 private:
     void RefuseRelativeStart();
     void SetCommands(bool acquiring); // IsAcquiring with the start and stop buttons and menus
     void SetOptionMenus(bool enabled); // COM and RATE
-    void StopTimers(); // UNLINK_TIMER, ANALOG_TIMER, SAMPLE_TIMER
 
     app::AppState& m_state;
     platform::MainControls& m_controls;
