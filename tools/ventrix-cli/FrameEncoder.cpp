@@ -1,5 +1,7 @@
 #include "ventrix-cli/FrameEncoder.h"
 
+#include "link/FrameValidator.h"
+
 #include <vector>
 
 namespace ventrix::cli {
@@ -142,14 +144,6 @@ void SetPrefix(char prefix, std::uint8_t& byte2, std::uint8_t& byte3)
 
 } // namespace
 
-std::uint8_t FrameChecksum(const RawFrame& frame)
-{
-    unsigned sum = 57;
-    for (int i = 0; i < 8; ++i)
-        sum += frame[i];
-    return static_cast<std::uint8_t>(sum % 256);
-}
-
 std::optional<RawFrame> EncodeFrame(const MeterDisplay& display, std::string& error)
 {
     const std::optional<FunctionSegments> function = SegmentsOfMode(display.mode);
@@ -231,7 +225,7 @@ std::optional<RawFrame> EncodeFrame(const MeterDisplay& display, std::string& er
     frame[5] = digits[1];
     frame[6] = static_cast<std::uint8_t>(digits[0] | (display.max ? 0x08 : 0)); // MAX shares byte 7
     frame[7] = byte8;
-    frame[8] = FrameChecksum(frame);
+    frame[8] = link::ComputeChecksum(std::string(frame.begin(), frame.end()), 0);
     return frame;
 }
 

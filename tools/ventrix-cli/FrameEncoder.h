@@ -34,7 +34,4 @@ using RawFrame = std::array<std::uint8_t, 9>;
 // or a character outside the meter's alphabet. Does not send anything.
 std::optional<RawFrame> EncodeFrame(const MeterDisplay& display, std::string& error);
 
-// (byte 1 + ... + byte 8 + 57) modulo 256.
-std::uint8_t FrameChecksum(const RawFrame& frame);
-
 } // namespace ventrix::cli
