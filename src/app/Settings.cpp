@@ -1,6 +1,7 @@
 #include "app/Settings.h"
 
 #include "graph/PlotAppearance.h"
+#include "platform/MenuGroup.h"
 
 #include <filesystem>
 #include <fstream>
@@ -9,19 +10,8 @@
 namespace ventrix::app {
 
 namespace {
-// Clears every check mark of a menu group, in menu order.
-template <std::size_t N> void ClearChecks(std::array<platform::MenuItem, N>& items)
-{
-    for (auto& item : items)
-        item.SetChecked(false);
-}
-
-// Checks exactly the item at index, writing the marks in menu order.
-template <std::size_t N> void CheckOnly(std::array<platform::MenuItem, N>& items, std::size_t index)
-{
-    for (std::size_t i = 0; i < N; ++i)
-        items[i].SetChecked(i == index);
-}
+using platform::CheckOnly;
+using platform::ClearChecks;
 
 // Reads the first seven bytes of the file over a buffer of spaces: a shorter file leaves the
 // missing bytes as spaces. Returns nothing when the file is missing or cannot be read.

@@ -1,15 +1,10 @@
 #include "graph/PlotAppearance.h"
 
+#include "platform/MenuGroup.h"
+
 namespace ventrix::graph {
 
-namespace {
-// Checks exactly the item at index, writing the marks in menu order.
-template <std::size_t N> void CheckOnly(std::array<platform::MenuItem, N>& items, std::size_t index)
-{
-    for (std::size_t i = 0; i < N; ++i)
-        items[i].SetChecked(i == index);
-}
-} // namespace
+using platform::CheckOnly;
 
 PlotAppearance::PlotAppearance(platform::MainControls& controls, platform::GraphControl& graph)
     : m_controls(controls)
