@@ -2,7 +2,6 @@
 // stream of mixed meter frames with noise between them, and the parts on their own. Also a long
 // run on nothing but garbage, reporting how much the resident set grew (it must not).
 
-#include "app/AppState.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
 #include "link/CaptureReplay.h"
@@ -10,6 +9,7 @@
 #include "link/FrameValidator.h"
 #include "link/ReplayServices.h"
 #include "link/SerialLink.h"
+#include "state/AppState.h"
 
 #include <benchmark/benchmark.h>
 
@@ -77,7 +77,7 @@ const std::string& MixedStream()
 
 // A window-less link that receives whatever its replay port is loaded with.
 struct Rig {
-    app::AppState state;
+    state::AppState state;
     platform::MainControls controls;
     link::ReplayServices services;
     display::VirtualLcd lcd { state, controls };
@@ -173,8 +173,8 @@ BENCHMARK(BM_ValidateFrame);
 void BM_DecodeFrame(benchmark::State& state)
 {
     std::mt19937 rng(7);
-    std::vector<app::AppState> loaded(256);
-    for (app::AppState& s : loaded) {
+    std::vector<state::AppState> loaded(256);
+    for (state::AppState& s : loaded) {
         const std::string f = RandomFrame(rng);
         s.ModeByte = static_cast<std::uint8_t>(f[0]);
         for (int k = 2; k <= 8; ++k)

@@ -2,7 +2,6 @@
 // (event cutting, assembly, validation, decoding across frames), and once as raw receive events
 // of arbitrary length handed straight to AssembleFrame. Traps on any broken invariant.
 
-#include "app/AppState.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
 #include "link/CaptureReplay.h"
@@ -10,6 +9,7 @@
 #include "link/FrameValidator.h"
 #include "link/ReplayServices.h"
 #include "link/SerialLink.h"
+#include "state/AppState.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,7 +33,7 @@ bool KnownWord(const std::string& word)
     return false;
 }
 
-void CheckReading(const app::AppState& state)
+void CheckReading(const state::AppState& state)
 {
     const int divisor = state.DecimalDivisor;
     Check(divisor == 1 || divisor == 10 || divisor == 100 || divisor == 1000);
@@ -67,7 +67,7 @@ void ReplayStream(const std::string& bytes)
 // The input is cut into receive events; each cut's length is taken from the byte before it.
 void RawEvents(const std::uint8_t* data, std::size_t size)
 {
-    app::AppState state;
+    state::AppState state;
     platform::MainControls controls;
     link::ReplayServices services;
     platform::Services& s = services.Services();

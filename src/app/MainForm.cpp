@@ -20,7 +20,7 @@ void Fill(platform::ComboBox& list, std::initializer_list<const char*> items)
 }
 } // namespace
 
-MainForm::MainForm(AppState& state, platform::MainControls& controls, platform::Services& services)
+MainForm::MainForm(state::AppState& state, platform::MainControls& controls, platform::Services& services)
     : m_state(state)
     , m_controls(controls)
     , m_services(services)
@@ -37,7 +37,7 @@ MainForm::MainForm(AppState& state, platform::MainControls& controls, platform::
 
 void MainForm::Form_Load()
 {
-    AppState& s = m_state;
+    state::AppState& s = m_state;
     platform::MainControls& c = m_controls;
     platform::FormTimers& timers = m_services.timers;
     platform::GraphControl& graph = m_services.GRAPH_CWGraph;

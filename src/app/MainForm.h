@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "app/Settings.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
@@ -9,6 +8,7 @@
 #include "log/MemoryGauge.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
+#include "state/AppState.h"
 
 namespace ventrix::app {
 
@@ -17,7 +17,7 @@ namespace ventrix::app {
 // once, then forwards user events to the controls' Click()/selection and the services' events.
 class MainForm {
 public:
-    MainForm(AppState& state, platform::MainControls& controls, platform::Services& services);
+    MainForm(state::AppState& state, platform::MainControls& controls, platform::Services& services);
     MainForm(const MainForm&) = delete;
     MainForm& operator=(const MainForm&) = delete;
 
@@ -42,7 +42,7 @@ private:
     void DisableUnfinishedCommands();
     void ShowAbout();
 
-    AppState& m_state;
+    state::AppState& m_state;
     platform::MainControls& m_controls;
     platform::Services& m_services;
     display::VirtualLcd m_lcd;

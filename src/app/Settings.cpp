@@ -38,7 +38,7 @@ std::optional<std::array<std::uint8_t, kSettingsFileSize>> ReadSettingsFile(cons
 }
 } // namespace
 
-Settings::Settings(AppState& state, platform::MainControls& controls, platform::GraphControl& graph,
+Settings::Settings(state::AppState& state, platform::MainControls& controls, platform::GraphControl& graph,
     const platform::AppPaths& paths, std::function<void()> updateMemoryGauge)
     : m_state(state)
     , m_controls(controls)

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "app/SettingsBytes.h"
 #include "platform/AppPaths.h"
 #include "platform/GraphControl.h"
 #include "platform/MainControls.h"
+#include "state/AppState.h"
 
 #include <functional>
 
@@ -15,7 +15,7 @@ namespace ventrix::app {
 // wrong falls back to defaults silently; saving fails silently.
 class Settings {
 public:
-    Settings(AppState& state, platform::MainControls& controls, platform::GraphControl& graph,
+    Settings(state::AppState& state, platform::MainControls& controls, platform::GraphControl& graph,
         const platform::AppPaths& paths, std::function<void()> updateMemoryGauge);
     void LoadSettings();
     void SaveSettings();
@@ -27,7 +27,7 @@ private:
     // group in file order.
     void ApplySettings(const SettingsChoice& choice);
 
-    AppState& m_state;
+    state::AppState& m_state;
     platform::MainControls& m_controls;
     platform::GraphControl& m_graph;
     const platform::AppPaths& m_paths;

@@ -18,7 +18,7 @@ struct GaugeScale {
 
 } // namespace
 
-AnalogGauge::AnalogGauge(app::AppState& state, platform::KnobControl& knob, platform::Timer& analogTimer)
+AnalogGauge::AnalogGauge(state::AppState& state, platform::KnobControl& knob, platform::Timer& analogTimer)
     : m_state(state)
     , m_knob(knob)
     , m_timer(analogTimer)
@@ -27,7 +27,7 @@ AnalogGauge::AnalogGauge(app::AppState& state, platform::KnobControl& knob, plat
 
 void AnalogGauge::UpdateGaugeTarget()
 {
-    app::AppState& s = m_state;
+    state::AppState& s = m_state;
     if (s.AwaitingAbsoluteReading)
         return;
 
@@ -70,7 +70,7 @@ void AnalogGauge::UpdateGaugeTarget()
 
 void AnalogGauge::AnimateGauge()
 {
-    app::AppState& s = m_state;
+    state::AppState& s = m_state;
 
     // Divisor 0 never comes from the decoder; treat it as 1 rather than divide by it.
     const double divisor = s.DecimalDivisor == 0 ? 1.0 : static_cast<double>(s.DecimalDivisor);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "platform/KnobControl.h"
 #include "platform/Timer.h"
+#include "state/AppState.h"
 
 namespace ventrix::display {
 
@@ -10,12 +10,12 @@ namespace ventrix::display {
 // ANALOG_TIMER tick, moves the needle toward it and writes scale marks and range to the knob.
 class AnalogGauge {
 public:
-    AnalogGauge(app::AppState& state, platform::KnobControl& knob, platform::Timer& analogTimer);
+    AnalogGauge(state::AppState& state, platform::KnobControl& knob, platform::Timer& analogTimer);
     void UpdateGaugeTarget();
     void AnimateGauge();
 
 private:
-    app::AppState& m_state;
+    state::AppState& m_state;
     platform::KnobControl& m_knob;
     platform::Timer& m_timer;
 };

@@ -87,7 +87,7 @@ std::string FormatDisplayDigits(double countValue, int decimalDivisor)
     return text;
 }
 
-std::string FormatDisplayDigits(const app::AppState& state)
+std::string FormatDisplayDigits(const state::AppState& state)
 {
     return FormatDisplayDigits(state.CountValue, state.DecimalDivisor);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppState.h"
+#include "state/AppState.h"
 
 #include <string>
 
@@ -10,6 +10,6 @@ namespace ventrix::display {
 // dropped (four at most), "0" before a leading point; "0" for any other divisor. No sign.
 std::string FormatDisplayDigits(double countValue, int decimalDivisor);
 // The same for the current reading.
-std::string FormatDisplayDigits(const app::AppState& state);
+std::string FormatDisplayDigits(const state::AppState& state);
 
 } // namespace ventrix::display

@@ -9,14 +9,14 @@ namespace ventrix::display {
 namespace {
 
 // Frame bytes are numbered 1 to 9 as received; FrameData holds bytes 8 down to 2.
-bool FrameBit(const app::AppState& state, int byteNumber, std::uint8_t mask)
+bool FrameBit(const state::AppState& state, int byteNumber, std::uint8_t mask)
 {
     return (state.FrameData[static_cast<std::size_t>(8 - byteNumber)] & mask) != 0;
 }
 
 } // namespace
 
-VirtualLcd::VirtualLcd(const app::AppState& state, platform::MainControls& controls)
+VirtualLcd::VirtualLcd(const state::AppState& state, platform::MainControls& controls)
     : m_state(state)
     , m_controls(controls)
 {
@@ -24,7 +24,7 @@ VirtualLcd::VirtualLcd(const app::AppState& state, platform::MainControls& contr
 
 void VirtualLcd::RefreshVirtualLcd()
 {
-    const app::AppState& s = m_state;
+    const state::AppState& s = m_state;
     platform::MainControls& c = m_controls;
 
     // A relative reading taken before any absolute one is not shown: the LCD keeps its content.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "platform/MainControls.h"
+#include "state/AppState.h"
 
 namespace ventrix::display {
 
@@ -10,11 +10,11 @@ namespace ventrix::display {
 // is awaited.
 class VirtualLcd {
 public:
-    VirtualLcd(const app::AppState& state, platform::MainControls& controls);
+    VirtualLcd(const state::AppState& state, platform::MainControls& controls);
     void RefreshVirtualLcd();
 
 private:
-    const app::AppState& m_state;
+    const state::AppState& m_state;
     platform::MainControls& m_controls;
 };
 

@@ -10,7 +10,7 @@ namespace ventrix::link {
 
 void CaptureReplay::Run(const std::string& bytes, const std::function<void(const Frame&)>& onFrame)
 {
-    app::AppState state;
+    state::AppState state;
     state.SpecialWordTable = kSpecialWordTable;
     platform::MainControls controls;
     controls.NEG_LBL.SetVisible(false); // as start-up leaves the LCD before the first frame

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "platform/MainControls.h"
+#include "state/AppState.h"
 
 #include <cstddef>
 #include <functional>
@@ -21,7 +21,7 @@ public:
         std::size_t offset; // 0-based offset of the frame's first byte in the input
         bool refused; // relative mode while an absolute reading was awaited
         bool logged; // the sampling path would log this reading
-        const app::AppState& state;
+        const state::AppState& state;
         const platform::MainControls& controls;
     };
 

@@ -62,7 +62,7 @@ constexpr std::uint8_t Segments(std::uint8_t position)
 
 } // namespace
 
-bool DecodeFrame(app::AppState& state)
+bool DecodeFrame(state::AppState& state)
 {
     // Frame byte k (2 to 8) is kept reversed: element 0 holds byte 8.
     const auto byte = [&](int k) { return state.FrameData[static_cast<std::size_t>(8 - k)]; };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppState.h"
+#include "state/AppState.h"
 
 #include <array>
 #include <string>
@@ -16,6 +16,6 @@ inline const std::array<std::string, 15> kSpecialWordTable { " OF ", "----", " H
 // function, unit, multiplier, divisor, count, sign, relative mode and word. Returns true when
 // the frame is in relative mode while an absolute reading is awaited: the caller then refuses
 // the acquisition. Decoding is complete either way.
-bool DecodeFrame(app::AppState& state);
+bool DecodeFrame(state::AppState& state);
 
 } // namespace ventrix::link

@@ -20,7 +20,7 @@ constexpr const char* kBoxTitle = "Ventrix";
 constexpr const char* kWarningTitle = "Warning";
 } // namespace
 
-SerialLink::SerialLink(app::AppState& state, platform::MainControls& controls, platform::Services& services,
+SerialLink::SerialLink(state::AppState& state, platform::MainControls& controls, platform::Services& services,
     display::VirtualLcd& lcd, display::AnalogGauge& gauge, RefusalHandler onRefusal)
     : m_state(state)
     , m_controls(controls)

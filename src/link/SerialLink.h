@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
+#include "state/AppState.h"
 
 #include <functional>
 #include <string>
@@ -24,7 +24,7 @@ public:
     // Left empty, the link stops acquisition and warns the user; a replay records it instead.
     using RefusalHandler = std::function<void()>;
 
-    SerialLink(app::AppState& state, platform::MainControls& controls, platform::Services& services,
+    SerialLink(state::AppState& state, platform::MainControls& controls, platform::Services& services,
         display::VirtualLcd& lcd, display::AnalogGauge& gauge, RefusalHandler onRefusal = {});
 
     void StartAcquisition();
@@ -50,7 +50,7 @@ private:
     void SetCommands(bool acquiring); // IsAcquiring with the start and stop buttons and menus
     void SetOptionMenus(bool enabled); // COM and RATE
 
-    app::AppState& m_state;
+    state::AppState& m_state;
     platform::MainControls& m_controls;
     platform::Services& m_services;
     display::VirtualLcd& m_lcd;

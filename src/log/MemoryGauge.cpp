@@ -48,7 +48,7 @@ std::string RemainingTimeText(long long seconds)
     return text;
 }
 
-MemoryGauge::MemoryGauge(const app::AppState& state, platform::SlideBar& bar)
+MemoryGauge::MemoryGauge(const state::AppState& state, platform::SlideBar& bar)
     : m_state(state)
     , m_bar(bar)
 {
@@ -57,7 +57,7 @@ MemoryGauge::MemoryGauge(const app::AppState& state, platform::SlideBar& bar)
 void MemoryGauge::UpdateMemoryGauge()
 {
     const long long used
-        = static_cast<long long>(m_state.SwapPageCount) * app::kPageSize + m_state.PageFill - 1;
+        = static_cast<long long>(m_state.SwapPageCount) * state::kPageSize + m_state.PageFill - 1;
     const std::string text = RemainingTimeText(RemainingLogSeconds(used, m_state.SampleIntervalMs));
 
     if (m_state.IsBufferFull) {

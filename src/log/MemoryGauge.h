@@ -1,14 +1,14 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "platform/SlideBar.h"
+#include "state/AppState.h"
 
 #include <string>
 
 namespace ventrix::log {
 
 // Samples the log holds when it is full.
-inline constexpr long long kLogCapacity = static_cast<long long>(app::kMaxSwapPages) * app::kPageSize;
+inline constexpr long long kLogCapacity = static_cast<long long>(state::kMaxSwapPages) * state::kPageSize;
 
 // Logging time left, in seconds, for the samples still free at the given interval. Intervals
 // other than 2, 5, 10, 30 and 60 s count as 1 s.
@@ -23,11 +23,11 @@ std::string RemainingTimeText(long long seconds);
 // The text is the bar's caption, the percentage its value.
 class MemoryGauge {
 public:
-    MemoryGauge(const app::AppState& state, platform::SlideBar& bar);
+    MemoryGauge(const state::AppState& state, platform::SlideBar& bar);
     void UpdateMemoryGauge();
 
 private:
-    const app::AppState& m_state;
+    const state::AppState& m_state;
     platform::SlideBar& m_bar;
 };
 

@@ -1,4 +1,3 @@
-#include "app/AppState.h"
 #include "app/MainForm.h"
 #include "io/ModalGate.h"
 #include "io/QtSerialPortAdapter.h"
@@ -8,6 +7,7 @@
 #include "platform/Services.h"
 #include "platform/UnavailablePrinter.h"
 #include "platform/UnavailableSpreadsheet.h"
+#include "state/AppState.h"
 #include "ui/DialKnob.h"
 #include "ui/MainWindow.h"
 #include "ui/PanelStyle.h"
@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     platform::UnavailablePrinter printer;
     ui::QtShell shell;
 
-    app::AppState state;
+    state::AppState state;
     platform::MainControls controls;
     ui::MainWindow window(controls, gate);
     ui::QtDialogs dialogs(gate, &window);

@@ -41,7 +41,7 @@ protected:
     }
 
     fakes::TestRig rig;
-    app::AppState& s = rig.state;
+    state::AppState& s = rig.state;
     fakes::FakeKnob& knob = rig.knob;
     AnalogGauge gauge { rig.state, rig.knob, rig.analogTimer };
 };

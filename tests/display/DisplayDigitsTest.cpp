@@ -29,7 +29,7 @@ TEST(DisplayDigitsTest, ShowsTheMetersText)
     for (const Row& r : rows)
         EXPECT_EQ(FormatDisplayDigits(r.count, r.divisor), r.text) << r.count << " / " << r.divisor;
 
-    app::AppState state; // the reading's own count and divisor
+    state::AppState state; // the reading's own count and divisor
     state.CountValue = 1234;
     state.DecimalDivisor = 1000;
     EXPECT_EQ(FormatDisplayDigits(state), "1.234");

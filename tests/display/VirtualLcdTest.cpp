@@ -26,7 +26,7 @@ protected:
     }
 
     fakes::TestRig rig;
-    app::AppState& s = rig.state;
+    state::AppState& s = rig.state;
     platform::MainControls& c = rig.controls;
     VirtualLcd lcd { rig.state, rig.controls };
 };

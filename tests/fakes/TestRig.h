@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/AppState.h"
 #include "fakes/FakeGraph.h"
 #include "fakes/FakeKnob.h"
 #include "fakes/FakePrinter.h"
@@ -13,13 +12,14 @@
 #include "fakes/TempAppPaths.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
+#include "state/AppState.h"
 
 namespace ventrix::fakes {
 
 // Everything a handler needs, made of fakes: the shared state, the window's control models and
 // one fake per service, with the program directory in a fresh temporary directory.
 struct TestRig {
-    app::AppState state;
+    state::AppState state;
     platform::MainControls controls;
     FakeSerialPort serial;
     ManualTimer unlinkTimer;

@@ -15,7 +15,7 @@ using testing::LcdBytes;
 using testing::VoltsReading;
 
 // Stores the frame as the assembler does (bytes 8 down to 2) and decodes it.
-bool Decode(app::AppState& state, std::uint8_t mode, const LcdBytes& lcd)
+bool Decode(state::AppState& state, std::uint8_t mode, const LcdBytes& lcd)
 {
     state.ModeByte = mode;
     for (std::size_t i = 0; i < 7; ++i)
@@ -23,9 +23,9 @@ bool Decode(app::AppState& state, std::uint8_t mode, const LcdBytes& lcd)
     return DecodeFrame(state);
 }
 
-app::AppState Decoded(std::uint8_t mode, const LcdBytes& lcd)
+state::AppState Decoded(std::uint8_t mode, const LcdBytes& lcd)
 {
-    app::AppState state;
+    state::AppState state;
     Decode(state, mode, lcd);
     return state;
 }
@@ -45,7 +45,7 @@ TEST(FrameDecoderTest, ModeByteGivesFunctionAndUnit)
     const Row rows[] = { { 0, 0, "V", "V" }, { 1, 1, "V AC", "V AC" }, { 8, 4, "OHM", "ohm" },
         { 20, 10, "CONT", "ohm" }, { 24, 15, "", "" }, { 26, 255, "", "" }, { 255, 255, "", "" } };
     for (const Row& row : rows) {
-        app::AppState state;
+        state::AppState state;
         state.UnitLabel = state.BaseUnit = "stale";
         Decode(state, static_cast<std::uint8_t>(row.mode), Digits(0, 0, 0, 0));
         EXPECT_EQ(state.FunctionKind, row.kind) << "mode " << row.mode;
@@ -57,7 +57,7 @@ TEST(FrameDecoderTest, ModeByteGivesFunctionAndUnit)
 TEST(FrameDecoderTest, DigitsPointAndSign)
 {
     // 12.34: digits 1, 2, 3, 4 with the point in byte 5.
-    app::AppState state = Decoded(0, Digits(0x50, 0xB5, 0xF1 | kPoint, 0x72));
+    state::AppState state = Decoded(0, Digits(0x50, 0xB5, 0xF1 | kPoint, 0x72));
     EXPECT_EQ(state.CountValue, 1234);
     EXPECT_EQ(state.DecimalDivisor, 100);
     EXPECT_FALSE(state.HasWord);
@@ -80,7 +80,7 @@ TEST(FrameDecoderTest, DigitsPointAndSign)
 TEST(FrameDecoderTest, TemperatureTakesItsUnitFromTheLastPositionAndCountsThreeDigits)
 {
     // 23.5 °C: digits 2, 3, 5 in bytes 7 to 5, the point in byte 5, "C" in byte 4.
-    app::AppState state = Decoded(25, Digits(kDigit[2], kDigit[3], kDigit[5] | kPoint, 0x87));
+    state::AppState state = Decoded(25, Digits(kDigit[2], kDigit[3], kDigit[5] | kPoint, 0x87));
     EXPECT_EQ(state.FunctionKind, 14);
     EXPECT_EQ(state.UnitLabel, "°C");
     EXPECT_EQ(state.BaseUnit, "°C");
@@ -117,7 +117,7 @@ TEST(FrameDecoderTest, PrefixFirstMatchWins)
         { 0x10, 0x00, "MV", 1e6 }, { 0x31, 0xC0, "nV", 1e-9 }, { 0x31, 0x80, "uV", 1e-6 },
         { 0x31, 0x00, "mV", 1e-3 }, { 0x30, 0x00, "KV", 1e3 } };
     for (const Row& row : rows) {
-        app::AppState state;
+        state::AppState state;
         state.UnitMultiplier = 42.0;
         Decode(state, 0, { row.byte2, row.byte3, 0, 0, 0, 0, 0x02 });
         EXPECT_EQ(state.UnitLabel, row.label) << +row.byte2 << "/" << +row.byte3;
@@ -145,7 +145,7 @@ TEST(FrameDecoderTest, WordsAreRecognisedWithTheirValues)
         { { 0x2F, 0xDF, 0x00, 0x00 }, "----", 7, 0 }, { { 0x00, 0xF4, 0xE6, 0x00 }, "----", 7, 0 } };
     for (const Row& row : rows) {
         const auto& w = row.positions;
-        app::AppState state;
+        state::AppState state;
         state.DisplayWordIndex = 7;
         Decode(state, 0, { 0x02, 0x00, w[3], w[2], w[1], w[0], 0x02 });
         EXPECT_TRUE(state.HasWord) << row.word;
@@ -154,7 +154,7 @@ TEST(FrameDecoderTest, WordsAreRecognisedWithTheirValues)
         EXPECT_EQ(state.CountValue, row.count) << row.word;
     }
     // " HI " drops prefix and point for 4000 at divisor 1000; " LO " keeps them; both read "Logic".
-    app::AppState state = Decoded(22, { 0x01, 0x00, 0x00, 0x06 | kPoint, 0x76, 0x00, 0x02 });
+    state::AppState state = Decoded(22, { 0x01, 0x00, 0x00, 0x06 | kPoint, 0x76, 0x00, 0x02 });
     EXPECT_EQ(state.UnitLabel, "Logic");
     EXPECT_EQ(state.UnitMultiplier, 1.0);
     EXPECT_EQ(state.DecimalDivisor, 1000);
@@ -170,7 +170,7 @@ TEST(FrameDecoderTest, WordsAreRecognisedWithTheirValues)
 
 TEST(FrameDecoderTest, RelativeSpansAreTakenOnceAndRefusalOnlyBeforeAnAbsoluteReading)
 {
-    app::AppState state; // as after a stop: awaiting an absolute reading
+    state::AppState state; // as after a stop: awaiting an absolute reading
     EXPECT_TRUE(Decode(state, 0, VoltsReading(1234, false, true)));
     EXPECT_EQ(state.CountValue, 1234); // decoding completes all the same
     EXPECT_FALSE(Decode(state, 0, VoltsReading(1234)));

@@ -27,7 +27,7 @@ TEST(MemoryGaugeTest, TextAndValueFollowTheLogAndTheInterval)
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.text);
-        app::AppState state;
+        state::AppState state;
         state.SwapPageCount = c.swapPages;
         state.PageFill = c.pageFill;
         state.SampleIntervalMs = c.intervalMs;

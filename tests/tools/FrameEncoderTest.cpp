@@ -1,9 +1,9 @@
 #include "ventrix-cli/FrameEncoder.h"
-#include "app/AppState.h"
 #include "display/VirtualLcd.h"
 #include "link/FrameDecoder.h"
 #include "link/FrameValidator.h"
 #include "platform/MainControls.h"
+#include "state/AppState.h"
 #include "ventrix-cli/DemoScenario.h"
 
 #include <algorithm>
@@ -31,9 +31,9 @@ RawFrame Valid(const MeterDisplay& display)
 }
 
 // Decodes a frame the way the receive path does once it has accepted it.
-ventrix::app::AppState Decoded(const RawFrame& frame)
+ventrix::state::AppState Decoded(const RawFrame& frame)
 {
-    ventrix::app::AppState state;
+    ventrix::state::AppState state;
     state.SpecialWordTable = ventrix::link::kSpecialWordTable;
     state.AwaitingAbsoluteReading = false;
     state.ModeByte = frame[0];

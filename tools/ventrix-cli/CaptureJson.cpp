@@ -6,7 +6,7 @@ namespace ventrix::cli {
 
 std::string CaptureFrameJson(const link::CaptureReplay::Frame& frame)
 {
-    const app::AppState& s = frame.state;
+    const state::AppState& s = frame.state;
     const platform::MainControls& c = frame.controls;
 
     JsonObject lcd;

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-namespace ventrix::app {
+namespace ventrix::state {
 
 // One 8-byte sample record: hour, minute, second, decimal code with sign, count high, count low
 // or word index, multiplier code, function code.
@@ -94,4 +94,4 @@ struct AppState {
     std::int16_t SimulatorPhase = 0;
 };
 
-} // namespace ventrix::app
+} // namespace ventrix::state
