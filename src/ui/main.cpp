@@ -1,4 +1,5 @@
 #include "app/MainForm.h"
+#include "io/DataDirectoryLock.h"
 #include "io/ModalGate.h"
 #include "io/QtSerialPortAdapter.h"
 #include "io/StandardAppPaths.h"
@@ -17,6 +18,7 @@
 #include "ui/ToolIcons.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 using namespace ventrix;
 
@@ -35,6 +37,12 @@ int main(int argc, char** argv)
     io::QtSerialPortAdapter serial(gate);
     io::SystemClock clock;
     io::StandardAppPaths paths;
+    // Two loggers on one data directory would overwrite each other's swap file.
+    io::DataDirectoryLock lock(paths.ProgramDirectory());
+    if (!lock.TryLock()) {
+        QMessageBox::warning(nullptr, QStringLiteral("Ventrix"), QString::fromStdString(lock.RefusalMessage()));
+        return 1;
+    }
     platform::UnavailableSpreadsheet spreadsheet;
     platform::UnavailablePrinter printer;
     ui::QtShell shell;
