@@ -4,7 +4,7 @@ set -euo pipefail
 packages=(
   cmake ninja-build g++ pkgconf
   qtbase5-dev libqt5serialport5-dev libqwt-qt5-dev libxlsxwriter-dev
-  libgtest-dev libbenchmark-dev
+  libgtest-dev libbenchmark-dev nlohmann-json3-dev
   socat xvfb xauth fonts-dseg
   clang libclang-rt-14-dev
 )
