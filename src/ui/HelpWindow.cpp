@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPalette>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTabWidget>
@@ -31,7 +32,7 @@ HelpWindow::HelpWindow(const QString& helpDirectory, QWidget* parent)
 {
     setObjectName(QStringLiteral("HELPDIALOG"));
     setWindowTitle(QStringLiteral("Ventrix Help"));
-    resize(920, 640);
+    resize(1000, 680);
 
     m_tabs = new QTabWidget;
     m_tabs->setObjectName(QStringLiteral("HelpTabs"));
@@ -56,6 +57,13 @@ HelpWindow::HelpWindow(const QString& helpDirectory, QWidget* parent)
     m_browser->setObjectName(QStringLiteral("HelpBrowser"));
     m_browser->setOpenExternalLinks(true);
     m_browser->setSearchPaths({ helpDirectory });
+    // The pages are documents to read: dark text on white paper, whatever the window's palette.
+    QPalette paper = m_browser->palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, QColor(0x20, 0x20, 0x20));
+    paper.setColor(QPalette::Link, QColor(0x1d, 0x4f, 0x7a));
+    paper.setColor(QPalette::LinkVisited, QColor(0x5a, 0x3d, 0x7a));
+    m_browser->setPalette(paper);
 
     auto* back = new QToolButton;
     back->setText(QStringLiteral("< &Back"));
@@ -77,7 +85,7 @@ HelpWindow::HelpWindow(const QString& helpDirectory, QWidget* parent)
     splitter->addWidget(m_tabs);
     splitter->addWidget(pageSide);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({ 260, 660 });
+    splitter->setSizes({ 310, 690 });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(splitter);
 
@@ -124,11 +132,14 @@ void HelpWindow::BuildContents()
 
 void HelpWindow::BuildIndex()
 {
-    for (const HelpEntry& entry : m_catalog.Index()) {
+    QVector<HelpEntry> keywords = m_catalog.Index();
+    std::stable_sort(keywords.begin(), keywords.end(), [](const HelpEntry& a, const HelpEntry& b) {
+        return QString::compare(a.title, b.title, Qt::CaseInsensitive) < 0;
+    });
+    for (const HelpEntry& entry : keywords) {
         auto* item = new QListWidgetItem(entry.title, m_index);
         item->setData(kTargetRole, entry.target);
     }
-    m_index->sortItems(Qt::AscendingOrder);
 }
 
 void HelpWindow::Show(platform::HelpView view)
