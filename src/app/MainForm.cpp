@@ -157,8 +157,7 @@ void MainForm::DisableUnfinishedCommands()
              &c.MENU_PRINT_GRAPH, &c.CMD_PRINT, // printing
              &c.CLEAR_LOG, &c.CMD_RESET, // clearing the log
              &c.AUTO_ZOOM, &c.CMD_ZOOM, // zoom all data
-             &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO, // graph modes and scales
-             &c.HELP_CONTENT, &c.HELP_INDEX }) // help
+             &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO }) // graph modes and scales
         control->SetEnabled(false);
 }
 
@@ -221,6 +220,8 @@ void MainForm::WireControls()
 
     c.Exit.SetOnClick([this] { Quit(); });
     c.CMD_EXIT.SetOnClick([this] { Quit(); });
+    c.HELP_CONTENT.SetOnClick([this] { m_services.shell.ShowHelp(platform::HelpView::Contents); });
+    c.HELP_INDEX.SetOnClick([this] { m_services.shell.ShowHelp(platform::HelpView::Index); });
     c.HELP_ABOUT.SetOnClick([this] { ShowAbout(); });
 }
 

@@ -29,4 +29,10 @@ void QtShell::EndProgram()
     QCoreApplication::exit(0);
 }
 
+void QtShell::ShowHelp(platform::HelpView view)
+{
+    if (m_onHelp)
+        m_onHelp(view);
+}
+
 } // namespace ventrix::ui

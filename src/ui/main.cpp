@@ -10,6 +10,7 @@
 #include "platform/UnavailableSpreadsheet.h"
 #include "state/AppState.h"
 #include "ui/DialKnob.h"
+#include "ui/HelpWindow.h"
 #include "ui/MainWindow.h"
 #include "ui/PanelStyle.h"
 #include "ui/QtDialogs.h"
@@ -18,9 +19,28 @@
 #include "ui/ToolIcons.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 
 using namespace ventrix;
+
+namespace {
+// Where the help pages are: VENTRIX_HELP_DIR when set, else the installed share/ventrix/help
+// beside the program's bin directory, else the source tree's help/ (a program run from its build
+// directory).
+QString HelpDirectory()
+{
+    const QString chosen = qEnvironmentVariable("VENTRIX_HELP_DIR");
+    if (!chosen.isEmpty())
+        return chosen;
+    const QString installed
+        = QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/ventrix/help"));
+    if (QFileInfo::exists(installed + QStringLiteral("/contents.txt")))
+        return installed;
+    return QString::fromUtf8(VENTRIX_SOURCE_HELP_DIR);
+}
+} // namespace
 
 // The composition root: builds the adapters, the window and the form, runs start-up, and hands
 // control to the event loop.
@@ -57,6 +77,8 @@ int main(int argc, char** argv)
     app::MainForm form(state, controls, services);
     window.SetCloseHandler([&form](int& cancel) { form.Form_Unload(cancel); });
     shell.SetOnEnd([&window] { window.CloseWithoutAsking(); });
+    ui::HelpWindow help(HelpDirectory());
+    shell.SetOnHelp([&help](platform::HelpView view) { help.Show(view); });
 
     form.Form_Load();
     window.show();

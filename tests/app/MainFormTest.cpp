@@ -120,6 +120,9 @@ TEST_F(MainFormTest, MenusReachTheirHandlersAndTheChoicesOutliveTheRun)
     rig.controls.COM_ITEMS[3].Click();
     rig.controls.SEC_ITEMS[1].Click();
     EXPECT_EQ(rig.controls.MEMORY_BAR.Caption(), "10 Days 0 Hr 0 Min");
+    rig.controls.HELP_INDEX.Click();
+    rig.controls.HELP_CONTENT.Click();
+    EXPECT_EQ(rig.shell.helpViews, (std::vector { platform::HelpView::Index, platform::HelpView::Contents }));
     rig.dialogs.answers.push_back(platform::MessageResult::Yes);
     rig.controls.CMD_EXIT.Click();
     EXPECT_EQ(ReadBytes(rig.paths.SettingsFile()), (Bytes { 4, 2, 0, 0, 0, 0, 1 }));
