@@ -12,10 +12,12 @@
 namespace ventrix::ui {
 
 // The plotted curve: the samples as a line (straight or in steps), optionally filled down to a
-// base line and marked with a symbol at each drawn point. Draws only what is visible, thinned
-// to the pixel columns when dense (see SampleSeries), so a full log paints in milliseconds;
-// symbols on a thinned run mark the thinned points only. Takes part in autoscaling with the
-// extent of all samples.
+// base line and marked with a symbol at each drawn point. Draws only what is visible. Where
+// samples are dense (more than SampleSeries::kRawPointsPerColumn per pixel column) each column
+// is drawn as the band of values the line passes through there, as wide as the pen and broken
+// into the pen's dash pattern along X, the fill as the band down to the base line, and the
+// symbols at the column's smallest and largest sample: the picture of the raw line at a cost
+// bounded by the canvas width.
 class SampleCurve : public QwtPlotItem {
 public:
     enum class Shape { Lines, Steps };
@@ -41,6 +43,11 @@ public:
     const QwtSymbol* Symbol() const { return m_symbol.get(); }
 
 private:
+    void DrawSparse(
+        QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const;
+    void DrawDense(
+        QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const;
+
     SampleSeries m_series;
     QPen m_pen;
     QBrush m_brush { Qt::NoBrush };

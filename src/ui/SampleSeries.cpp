@@ -9,13 +9,14 @@ namespace ventrix::ui {
 
 void SampleSeries::Append(double value)
 {
+    const float stored = static_cast<float>(value);
     if (m_values.empty()) {
-        m_min = m_max = value;
+        m_min = m_max = stored;
     } else {
-        m_min = std::min(m_min, value);
-        m_max = std::max(m_max, value);
+        m_min = std::min<double>(m_min, stored);
+        m_max = std::max<double>(m_max, stored);
     }
-    m_values.push_back(value);
+    m_values.push_back(stored);
 }
 
 void SampleSeries::Clear()
@@ -31,55 +32,71 @@ QRectF SampleSeries::BoundingRect() const
     return { 0.0, m_min, static_cast<double>(m_values.size() - 1), m_max - m_min };
 }
 
-QPolygonF SampleSeries::VisiblePoints(const QwtScaleMap& xMap, double columns) const
+std::pair<std::size_t, std::size_t> SampleSeries::VisibleRange(const QwtScaleMap& xMap) const
 {
     if (m_values.empty())
-        return {};
+        return { 0, 0 };
     const double lastIndex = static_cast<double>(m_values.size() - 1);
     const double low = std::min(xMap.s1(), xMap.s2());
     const double high = std::max(xMap.s1(), xMap.s2());
     if (high < 0.0 || low > lastIndex)
-        return {};
+        return { 0, 0 };
     const auto first = static_cast<std::size_t>(std::clamp(std::floor(low) - 1.0, 0.0, lastIndex));
     const auto last = static_cast<std::size_t>(std::clamp(std::ceil(high) + 1.0, 0.0, lastIndex));
+    return { first, last + 1 };
+}
 
-    if (static_cast<double>(last - first + 1) > kRawPointsPerColumn * std::max(1.0, columns))
-        return Thinned(first, last, xMap);
+bool SampleSeries::IsDense(const QwtScaleMap& xMap, double columns) const
+{
+    const auto [first, end] = VisibleRange(xMap);
+    return static_cast<double>(end - first) > kRawPointsPerColumn * std::max(1.0, columns);
+}
+
+QPolygonF SampleSeries::VisiblePoints(const QwtScaleMap& xMap) const
+{
+    const auto [first, end] = VisibleRange(xMap);
     QPolygonF points;
-    points.reserve(static_cast<int>(last - first + 1));
-    for (std::size_t i = first; i <= last; ++i)
+    points.reserve(static_cast<int>(end - first));
+    for (std::size_t i = first; i < end; ++i)
         points.append(QPointF(static_cast<double>(i), m_values[i]));
     return points;
 }
 
-QPolygonF SampleSeries::Thinned(std::size_t first, std::size_t last, const QwtScaleMap& xMap) const
+std::vector<SampleSeries::Column> SampleSeries::Columns(
+    const QwtScaleMap& xMap, double left, double right) const
 {
-    QPolygonF points;
-    std::size_t minIndex = first;
-    std::size_t maxIndex = first;
-    auto flush = [&] {
-        const std::size_t a = std::min(minIndex, maxIndex);
-        const std::size_t b = std::max(minIndex, maxIndex);
-        points.append(QPointF(static_cast<double>(a), m_values[a]));
-        if (b != a)
-            points.append(QPointF(static_cast<double>(b), m_values[b]));
+    std::vector<Column> columns;
+    if (m_values.empty() || xMap.s1() >= xMap.s2() || xMap.p1() >= xMap.p2())
+        return columns;
+    const double count = static_cast<double>(m_values.size());
+    // The first sample at or right of pixel edge `px`.
+    const auto startAt = [&](double px) {
+        return static_cast<std::size_t>(std::clamp(std::ceil(xMap.invTransform(px)), 0.0, count));
     };
-    double column = std::floor(xMap.transform(static_cast<double>(first)));
-    for (std::size_t i = first + 1; i <= last; ++i) {
-        const double c = std::floor(xMap.transform(static_cast<double>(i)));
-        if (c != column) {
-            flush();
-            column = c;
-            minIndex = maxIndex = i;
-            continue;
+    const int firstColumn = static_cast<int>(std::floor(left));
+    const int endColumn = static_cast<int>(std::ceil(right));
+    columns.reserve(static_cast<std::size_t>(std::max(0, endColumn - firstColumn)));
+    std::size_t begin = startAt(firstColumn);
+    for (int x = firstColumn; x < endColumn; ++x) {
+        const std::size_t end = startAt(x + 1);
+        if (begin < end) {
+            float smallest = m_values[begin];
+            float largest = smallest;
+            for (std::size_t i = begin + 1; i < end; ++i) {
+                const float v = m_values[i];
+                smallest = v < smallest ? v : smallest;
+                largest = v > largest ? v : largest;
+            }
+            Column column { x, smallest, largest, smallest, largest };
+            if (begin > 0) { // the line from the sample before
+                column.low = std::min(column.low, m_values[begin - 1]);
+                column.high = std::max(column.high, m_values[begin - 1]);
+            }
+            columns.push_back(column);
         }
-        if (m_values[i] < m_values[minIndex])
-            minIndex = i;
-        if (m_values[i] > m_values[maxIndex])
-            maxIndex = i;
+        begin = std::max(begin, end);
     }
-    flush();
-    return points;
+    return columns;
 }
 
 } // namespace ventrix::ui
