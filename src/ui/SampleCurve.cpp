@@ -1,21 +1,14 @@
 #include "ui/SampleCurve.h"
 
 #include <QPainter>
-#include <qwt_clipper.h>
-#include <qwt_painter.h>
 #include <qwt_scale_map.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ventrix::ui {
 
 namespace {
-// Pixel rows of a value, clamped far outside the canvas so that huge values stay integers.
-int Row(const QwtScaleMap& yMap, double value)
-{
-    return static_cast<int>(std::lround(std::clamp(yMap.transform(value), -1e6, 1e6)));
-}
-
 // Which pixel columns a dashed pen draws along X: its dash pattern in pixels, on and off.
 class DashColumns {
 public:
@@ -62,100 +55,74 @@ void SampleCurve::draw(
 {
     if (m_series.Count() == 0)
         return;
-    painter->save();
-    if (m_series.IsDense(xMap, canvasRect.width()))
-        DrawDense(painter, xMap, yMap, canvasRect);
-    else
-        DrawSparse(painter, xMap, yMap, canvasRect);
-    painter->restore();
-}
-
-void SampleCurve::DrawSparse(
-    QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const
-{
-    const QPolygonF samples = m_series.VisiblePoints(xMap);
-    if (samples.isEmpty())
-        return;
-    QPolygonF points(samples.size());
-    for (int i = 0; i < samples.size(); ++i)
-        points[i] = QPointF(xMap.transform(samples[i].x()), yMap.transform(samples[i].y()));
-
-    QPolygonF line;
-    if (m_shape == Shape::Steps && points.size() > 1) {
-        // Hold each value until the next sample, then jump.
-        line.reserve(points.size() * 2 - 1);
-        line.append(points.first());
-        for (int i = 1; i < points.size(); ++i) {
-            line.append(QPointF(points[i].x(), points[i - 1].y()));
-            line.append(points[i]);
-        }
-    } else {
-        line = points;
-    }
-
-    // Far-off points (zoomed in) are clipped to a margin around the canvas before drawing.
-    const QRectF clip = canvasRect.adjusted(-10.0, -10.0, 10.0, 10.0);
-    if (m_brush.style() != Qt::NoBrush && line.size() > 1) {
-        const double base = yMap.transform(m_baseline);
-        QPolygonF area = line;
-        area.append(QPointF(line.last().x(), base));
-        area.append(QPointF(line.first().x(), base));
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(m_brush);
-        painter->drawPolygon(QwtClipper::clipPolygonF(clip, area, true));
-    }
-    if (m_pen.style() != Qt::NoPen) {
-        painter->setPen(m_pen);
-        painter->setBrush(Qt::NoBrush);
-        // Qwt's polyline splits long runs into short pieces: wide and dashed pens stroke many
-        // times faster that way on raster devices.
-        if (line.size() > 1)
-            QwtPainter::drawPolyline(painter, QwtClipper::clipPolygonF(clip, line, false));
-        else
-            painter->drawPoint(line.first());
-    }
-    if (m_symbol && m_symbol->style() != QwtSymbol::NoSymbol)
-        m_symbol->drawSymbols(painter, points);
-}
-
-void SampleCurve::DrawDense(
-    QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const
-{
+    const int left = static_cast<int>(std::floor(canvasRect.left()));
+    const int right = static_cast<int>(std::ceil(canvasRect.right())) + 1;
     const std::vector<SampleSeries::Column> columns
-        = m_series.Columns(xMap, canvasRect.left(), canvasRect.right() + 1.0);
+        = m_series.Columns(xMap, yMap, left, right, m_shape == Shape::Steps);
     QVector<QRect> rects;
     rects.reserve(static_cast<int>(columns.size()));
+    painter->save();
+    painter->setPen(Qt::NoPen);
 
-    if (m_brush.style() != Qt::NoBrush) {
-        const int base = Row(yMap, m_baseline);
-        for (const SampleSeries::Column& c : columns) {
-            const int top = std::min(Row(yMap, c.high), base);
-            const int bottom = std::max(Row(yMap, c.low), base);
-            rects.append(QRect(c.x, top, 1, bottom - top + 1));
-        }
-        painter->setPen(Qt::NoPen);
+    const bool lineDrawn = m_pen.style() != Qt::NoPen;
+    const DashColumns dashes(m_pen);
+    if (m_brush.style() != Qt::NoBrush && !columns.empty()) {
+        // From the line to the base row, as two outlines (above and below the base) that fill
+        // row by row: far fewer spans than one thin rectangle per column. Where the line is
+        // drawn over a column the outline may end anywhere within the line's rows; it keeps as
+        // level as it can there, so noisy data does not give it thousands of edges.
+        const int base = static_cast<int>(std::lround(std::clamp(yMap.transform(m_baseline), -1e6, 1e6)));
         painter->setBrush(m_brush);
-        painter->drawRects(rects);
-        rects.clear();
+        for (const bool above : { true, false }) {
+            const int edge = above ? base + 1 : base; // where the outline runs along the base
+            QPolygon outline;
+            outline.reserve(static_cast<int>(columns.size()) * 2 + 4);
+            int next = columns.front().x;
+            int row = edge;
+            outline.append(QPoint(next, edge));
+            for (const SampleSeries::Column& c : columns) {
+                if (c.x != next) { // a gap without data: back to the base and along it
+                    outline.append(QPoint(next, edge));
+                    outline.append(QPoint(c.x, edge));
+                }
+                const int outer = above ? std::min(c.top, base) : std::max(c.bottom, base) + 1;
+                const int inner = above ? std::min(c.bottom, base) : std::max(c.top, base) + 1;
+                if (lineDrawn && dashes.Draws(c.x))
+                    row = std::clamp(row, std::min(outer, inner), std::max(outer, inner));
+                else
+                    row = outer;
+                if (outline.size() < 2 || outline.back().y() != row) {
+                    outline.append(QPoint(c.x, row));
+                    outline.append(QPoint(c.x + 1, row));
+                } else {
+                    outline.back().setX(c.x + 1);
+                }
+                next = c.x + 1;
+            }
+            outline.append(QPoint(next, edge));
+            painter->drawPolygon(outline);
+        }
     }
-    if (m_pen.style() != Qt::NoPen) {
-        // A pen of width w covers w columns and w rows around the band.
+    if (lineDrawn) {
+        // A pen w pixels wide covers w columns and w more rows around what a thin line covers.
         const int width = std::max(1, m_pen.width());
         const int before = (width - 1) / 2;
-        const DashColumns dashes(m_pen);
-        for (const SampleSeries::Column& c : columns) {
-            if (!dashes.Draws(c.x))
-                continue;
-            const int top = Row(yMap, c.high) - before;
-            const int bottom = Row(yMap, c.low) - before + width - 1;
-            rects.append(QRect(c.x - before, top, width, bottom - top + 1));
-        }
-        painter->setPen(Qt::NoPen);
+        for (const SampleSeries::Column& c : columns)
+            if (dashes.Draws(c.x))
+                rects.append(QRect(c.x - before, c.top - before, width, c.bottom - c.top + width));
         painter->setBrush(m_pen.color());
         painter->drawRects(rects);
     }
-    if (m_symbol && m_symbol->style() != QwtSymbol::NoSymbol) {
-        QPolygonF points;
+    if (m_symbol && m_symbol->style() != QwtSymbol::NoSymbol)
+        DrawSymbols(painter, xMap, yMap, canvasRect, columns);
+    painter->restore();
+}
+
+void SampleCurve::DrawSymbols(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+    const QRectF& canvasRect, const std::vector<SampleSeries::Column>& columns) const
+{
+    QPolygonF points;
+    if (m_series.IsDense(xMap, canvasRect.width())) {
         points.reserve(static_cast<int>(columns.size()) * 2);
         for (const SampleSeries::Column& c : columns) {
             const double x = c.x + 0.5;
@@ -163,8 +130,12 @@ void SampleCurve::DrawDense(
             if (c.largest != c.smallest)
                 points.append(QPointF(x, yMap.transform(c.largest)));
         }
-        m_symbol->drawSymbols(painter, points);
+    } else {
+        points = m_series.VisiblePoints(xMap);
+        for (QPointF& point : points)
+            point = QPointF(xMap.transform(point.x()), yMap.transform(point.y()));
     }
+    m_symbol->drawSymbols(painter, points);
 }
 
 } // namespace ventrix::ui

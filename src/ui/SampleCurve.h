@@ -12,12 +12,12 @@
 namespace ventrix::ui {
 
 // The plotted curve: the samples as a line (straight or in steps), optionally filled down to a
-// base line and marked with a symbol at each drawn point. Draws only what is visible. Where
-// samples are dense (more than SampleSeries::kRawPointsPerColumn per pixel column) each column
-// is drawn as the band of values the line passes through there, as wide as the pen and broken
-// into the pen's dash pattern along X, the fill as the band down to the base line, and the
-// symbols at the column's smallest and largest sample: the picture of the raw line at a cost
-// bounded by the canvas width.
+// base line and marked with a symbol at each sample. Draws only what is visible, one pixel
+// column at a time (see SampleSeries::Columns): the line as the rows it covers there widened to
+// the pen's width, a dashed pen broken into its dash pattern along X, the fill from the line to
+// the base line; symbols on every sample where there are few per column, else on each column's
+// smallest and largest sample. A full log draws as fast as a short one, and as the raw line
+// would look without anti-aliasing.
 class SampleCurve : public QwtPlotItem {
 public:
     enum class Shape { Lines, Steps };
@@ -43,10 +43,8 @@ public:
     const QwtSymbol* Symbol() const { return m_symbol.get(); }
 
 private:
-    void DrawSparse(
-        QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const;
-    void DrawDense(
-        QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const;
+    void DrawSymbols(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+        const QRectF& canvasRect, const std::vector<SampleSeries::Column>& columns) const;
 
     SampleSeries m_series;
     QPen m_pen;

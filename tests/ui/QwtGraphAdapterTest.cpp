@@ -130,7 +130,7 @@ QwtScaleMap Map(double s1, double s2, double pixels)
     return map;
 }
 
-TEST(SampleSeriesTest, DenseRunsDrawTheRangeOfEachColumn)
+TEST(SampleSeriesTest, ColumnsCoverWhatTheLineCovers)
 {
     constexpr int kCount = 432000;
     const int spike = 123457;
@@ -139,27 +139,47 @@ TEST(SampleSeriesTest, DenseRunsDrawTheRangeOfEachColumn)
     for (int i = 0; i < kCount; ++i)
         series.Append(i == spike ? 100.0 : i == dip ? -100.0 : i % 7);
     EXPECT_LE(series.MemoryBytes(), 4u * 1024 * 1024) << "four bytes a sample and the vector's slack";
-
-    const QwtScaleMap map = Map(0, kCount - 1, 1000);
-    EXPECT_TRUE(series.IsDense(map, 1000));
-    const auto columns = series.Columns(map, 0, 1000);
-    ASSERT_EQ(columns.size(), 1000u);
-    // A single extreme sample survives, in its own column and in the line into the next one.
-    const auto at = [&](int sample) { return columns[static_cast<std::size_t>(map.transform(sample))]; };
-    EXPECT_EQ(at(spike).largest, 100.0f);
-    EXPECT_EQ(at(dip).smallest, -100.0f);
-    EXPECT_EQ(columns.front().low, 0.0f);
-    EXPECT_EQ(columns.front().high, 6.0f);
     EXPECT_EQ(series.BoundingRect(), QRectF(0, -100, kCount - 1, 200));
 
-    // A step between columns is drawn in the column it steps into.
+    // Rows 200 (value -100) up to 0 (value 100); a single extreme sample survives.
+    const QwtScaleMap x = Map(0, kCount - 1, 1000);
+    const QwtScaleMap y = Map(100, -100, 200);
+    EXPECT_TRUE(series.IsDense(x, 1000));
+    const auto columns = series.Columns(x, y, 0, 1000, false);
+    ASSERT_EQ(columns.size(), 1000u);
+    const auto at = [&](int sample) { return columns[static_cast<std::size_t>(x.transform(sample))]; };
+    EXPECT_EQ(at(spike).top, 0);
+    EXPECT_EQ(at(spike).largest, 100.0f);
+    EXPECT_EQ(at(dip).bottom, 200);
+    EXPECT_EQ(columns.front().top, 94);
+    EXPECT_EQ(columns.front().bottom, 100);
+
+    // A step: a straight line climbs in the column before it, a stepped one in its own column.
     SampleSeries step;
     for (int i = 0; i < 100; ++i)
         step.Append(i < 50 ? 0.0 : 1.0);
-    const auto stepColumns = step.Columns(Map(0, 99, 10), 0, 10);
-    EXPECT_EQ(stepColumns[5].low, 0.0f);
-    EXPECT_EQ(stepColumns[5].high, 1.0f);
-    EXPECT_EQ(stepColumns[5].smallest, 1.0f);
+    const QwtScaleMap tenRows = Map(1, 0, 10);
+    const auto straight = step.Columns(Map(0, 99, 10), tenRows, 0, 10, false);
+    EXPECT_EQ(std::make_pair(straight[4].top, straight[4].bottom), std::make_pair(1, 10));
+    EXPECT_EQ(std::make_pair(straight[5].top, straight[5].bottom), std::make_pair(0, 0));
+    const auto stepped = step.Columns(Map(0, 99, 10), tenRows, 0, 10, true);
+    EXPECT_EQ(std::make_pair(stepped[4].top, stepped[4].bottom), std::make_pair(10, 10));
+    EXPECT_EQ(std::make_pair(stepped[5].top, stepped[5].bottom), std::make_pair(0, 10));
+
+    // Zoomed in, a line rising 100 rows over 100 columns and falling back takes about one row
+    // in each column, and the columns join up.
+    SampleSeries peak;
+    for (double v : { 0.0, 10.0, 0.0 })
+        peak.Append(v);
+    const auto zoomed = peak.Columns(Map(0, 2, 200), Map(0, 10, 100), 0, 200, false);
+    ASSERT_EQ(zoomed.size(), 200u);
+    for (std::size_t i = 0; i < zoomed.size(); ++i) {
+        EXPECT_LE(zoomed[i].bottom - zoomed[i].top, 1) << i;
+        if (i > 0) {
+            EXPECT_LE(std::max(zoomed[i].top - zoomed[i - 1].bottom, zoomed[i - 1].top - zoomed[i].bottom), 1)
+                << i;
+        }
+    }
 }
 
 TEST(SampleSeriesTest, SparseOrZoomedRunsKeepEverySampleInView)
