@@ -3,6 +3,7 @@
 // base and a symbol on every point), PlotSample for one more point including its painting, the
 // frame of a pan or zoom step and of a cursor drag, and the memory the samples take.
 
+#include "ResidentMemory.h"
 #include "graph/GraphCursors.h"
 #include "graph/Plotter.h"
 #include "platform/MainControls.h"
@@ -18,7 +19,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <random>
 #include <string>
@@ -31,21 +31,6 @@ namespace {
 constexpr int kFullLog = 432000;
 
 enum class Look { Thin, Default, Heaviest };
-
-long ResidentKb()
-{
-    std::ifstream status("/proc/self/status");
-    std::string key;
-    long value = 0;
-    while (status >> key) {
-        if (key == "VmRSS:") {
-            status >> value;
-            return value;
-        }
-        status.ignore(1 << 10, '\n');
-    }
-    return 0;
-}
 
 // The core's plotter on the Qwt graph, filled with a full log of a noisy DC voltage.
 struct GraphRig {

@@ -85,17 +85,7 @@ void GraphCursors::SelectGraphMode(int index)
     CenterCursors();
     for (platform::Label* label : m_controls.CursorLabels())
         label->SetEnabled(true);
-
-    const double x1 = m_graph.CursorX(1);
-    const double y1 = m_graph.CursorY(1);
-    const double x2 = m_graph.CursorX(2);
-    const double y2 = m_graph.CursorY(2);
-    m_controls.X1_VAL_LBL.SetCaption(TimeText(x1));
-    m_controls.Y1_VAL_LBL.SetCaption(AmplitudeText(y1));
-    m_controls.X2_VAL_LBL.SetCaption(TimeText(x2));
-    m_controls.Y2_VAL_LBL.SetCaption(AmplitudeText(y2));
-    m_controls.Y1_Y2_VAL_LBL.SetCaption(AmplitudeText(std::abs(y1 - y2)));
-    WriteTimeBetween(std::abs(x2 - x1));
+    WriteReadouts(false);
 }
 
 void GraphCursors::CursorMoved(int cursor, double x, double y)
@@ -134,6 +124,11 @@ void GraphCursors::RefreshAfterNewPoint()
 {
     // While data arrives the differences keep their sign: negative when cursor 2 stands to the
     // right of or above cursor 1.
+    WriteReadouts(true);
+}
+
+void GraphCursors::WriteReadouts(bool signedDifferences)
+{
     const double x1 = m_graph.CursorX(1);
     const double y1 = m_graph.CursorY(1);
     const double x2 = m_graph.CursorX(2);
@@ -142,8 +137,8 @@ void GraphCursors::RefreshAfterNewPoint()
     m_controls.Y1_VAL_LBL.SetCaption(AmplitudeText(y1));
     m_controls.X2_VAL_LBL.SetCaption(TimeText(x2));
     m_controls.Y2_VAL_LBL.SetCaption(AmplitudeText(y2));
-    m_controls.Y1_Y2_VAL_LBL.SetCaption(AmplitudeText(y1 - y2));
-    WriteTimeBetween(x1 - x2);
+    m_controls.Y1_Y2_VAL_LBL.SetCaption(AmplitudeText(signedDifferences ? y1 - y2 : std::abs(y1 - y2)));
+    WriteTimeBetween(signedDifferences ? x1 - x2 : std::abs(x2 - x1));
 }
 
 } // namespace ventrix::graph

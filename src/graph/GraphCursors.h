@@ -37,6 +37,9 @@ private:
     // interval is not one of the six.
     void WriteTimeBetween(double samples);
     void HideCursors();
+    // The six readouts from the cursors' positions, in order: X1, Y1, X2, Y2, Y1-Y2, X1-X2; the
+    // differences as Y1 - Y2 and X1 - X2, or as magnitudes.
+    void WriteReadouts(bool signedDifferences);
 
     state::AppState& m_state;
     platform::MainControls& m_controls;

@@ -39,7 +39,8 @@ void GraphOverlay::SetBand(const QRect& band)
 QRect GraphOverlay::MarkRect(const Mark& mark) const
 {
     const int x = static_cast<int>(std::floor(mark.x));
-    return QRect(x - kBox / 2 - 1, 0, kBox + kLabelWidth + 2, height());
+    const int reach = kBox / 2 + 4 + kLabelWidth; // the box or the number on either side
+    return QRect(x - reach, 0, 2 * reach + 1, height());
 }
 
 void GraphOverlay::drawOverlay(QPainter* painter) const
@@ -59,7 +60,16 @@ void GraphOverlay::drawOverlay(QPainter* painter) const
             const int y = static_cast<int>(std::floor(mark.y));
             painter->drawRect(x - kBox / 2, y - kBox / 2, kBox - 1, kBox - 1);
         }
-        painter->drawText(QRect(x + 3, 1, kLabelWidth, kLabelHeight), Qt::AlignLeft | Qt::AlignTop,
+        // The number beside the line: cursor 1 to its left, cursor 2 to its right, so that
+        // both read when they stand together; turned inward at the canvas edges.
+        bool leftOfLine = i == 0;
+        if (x - 3 - kLabelWidth < 0)
+            leftOfLine = false;
+        else if (x + 3 + kLabelWidth > width())
+            leftOfLine = true;
+        const QRect label = leftOfLine ? QRect(x - 3 - kLabelWidth, 1, kLabelWidth, kLabelHeight)
+                                       : QRect(x + 3, 1, kLabelWidth, kLabelHeight);
+        painter->drawText(label, (leftOfLine ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignTop,
             QString::number(static_cast<int>(i) + 1));
     }
     if (!m_band.isEmpty()) {

@@ -30,7 +30,6 @@ const QColor QwtGraphAdapter::kFillColour { 0, 0, 255 };
 
 namespace {
 constexpr int kSymbolSize = 7;
-constexpr int kSnapToSamples = 1;
 
 struct LineStyleCode {
     int code;
@@ -335,73 +334,33 @@ void QwtGraphAdapter::SetTrackingMode(int mode)
         m_trackingMode = mode;
 }
 
-QwtGraphAdapter::CursorState* QwtGraphAdapter::Find(int cursor)
-{
-    return cursor == 1 || cursor == 2 ? &m_cursors[static_cast<std::size_t>(cursor - 1)] : nullptr;
-}
-
-const QwtGraphAdapter::CursorState* QwtGraphAdapter::Find(int cursor) const
-{
-    return const_cast<QwtGraphAdapter*>(this)->Find(cursor);
-}
-
 void QwtGraphAdapter::SetCursorX(int cursor, double x)
 {
-    CursorState* c = Find(cursor);
-    if (c == nullptr)
-        return;
-    const std::size_t count = Samples().Count();
-    c->x
-        = c->mode == kSnapToSamples && count > 0 ? static_cast<double>(platform::NearestSample(x, count)) : x;
+    m_cursors.SetX(cursor, x, Samples().Count());
     UpdateOverlay();
 }
 
 double QwtGraphAdapter::CursorX(int cursor) const
 {
-    const CursorState* c = Find(cursor);
-    if (c == nullptr)
-        return 0.0;
-    const std::size_t count = Samples().Count();
-    if (c->mode == kSnapToSamples && count > 0)
-        return static_cast<double>(platform::NearestSample(c->x, count));
-    return c->x;
+    return m_cursors.X(cursor, Samples().Count());
 }
 
 double QwtGraphAdapter::CursorY(int cursor) const
 {
-    const CursorState* c = Find(cursor);
-    if (c == nullptr)
-        return 0.0;
-    if (c->mode != kSnapToSamples)
-        return c->y;
-    const std::size_t count = Samples().Count();
-    return count == 0 ? 0.0 : Samples().Value(platform::NearestSample(c->x, count));
+    return m_cursors.Y(
+        cursor, Samples().Count(), [this](std::size_t sample) { return Samples().Value(sample); });
 }
 
 void QwtGraphAdapter::SetCursorMode(int cursor, int mode)
 {
-    if (CursorState* c = Find(cursor))
-        c->mode = mode;
+    m_cursors.SetMode(cursor, mode);
     UpdateOverlay();
-}
-
-int QwtGraphAdapter::CursorMode(int cursor) const
-{
-    const CursorState* c = Find(cursor);
-    return c ? c->mode : 0;
 }
 
 void QwtGraphAdapter::SetCursorVisible(int cursor, bool visible)
 {
-    if (CursorState* c = Find(cursor))
-        c->visible = visible;
+    m_cursors.SetVisible(cursor, visible);
     UpdateOverlay();
-}
-
-bool QwtGraphAdapter::CursorVisible(int cursor) const
-{
-    const CursorState* c = Find(cursor);
-    return c && c->visible;
 }
 
 int QwtGraphAdapter::NearestCursor(double column) const
@@ -423,13 +382,12 @@ int QwtGraphAdapter::NearestCursor(double column) const
 
 void QwtGraphAdapter::DragCursor(int cursor, const QPointF& canvasPoint)
 {
-    CursorState* c = Find(cursor);
-    if (c == nullptr || !c->visible)
+    if (!CursorVisible(cursor))
         return;
     const double before = CursorX(cursor);
     SetCursorX(cursor, canvasMap(QwtPlot::xBottom).invTransform(canvasPoint.x()));
-    c->y = canvasMap(QwtPlot::yLeft).invTransform(canvasPoint.y());
-    if (c->mode == kSnapToSamples && CursorX(cursor) == before)
+    m_cursors.SetFreeY(cursor, canvasMap(QwtPlot::yLeft).invTransform(canvasPoint.y()));
+    if (CursorMode(cursor) == platform::CursorPair::kOnSamples && CursorX(cursor) == before)
         return; // still on the same sample
     if (m_onCursorChange)
         m_onCursorChange(cursor, CursorX(cursor), CursorY(cursor));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CursorPair.h"
 #include "platform/GraphControl.h"
 
 #include <QColor>
@@ -60,9 +61,9 @@ public:
     double CursorX(int cursor) const override;
     double CursorY(int cursor) const override;
     void SetCursorMode(int cursor, int mode) override;
-    int CursorMode(int cursor) const override;
+    int CursorMode(int cursor) const override { return m_cursors.Mode(cursor); }
     void SetCursorVisible(int cursor, bool visible) override;
-    bool CursorVisible(int cursor) const override;
+    bool CursorVisible(int cursor) const override { return m_cursors.Visible(cursor); }
     void SetOnCursorChange(CursorChangeHandler handler) override { m_onCursorChange = std::move(handler); }
 
     // What the mouse does (GraphMouse): a new view of an axis (automatic scaling off), the
@@ -92,16 +93,8 @@ private:
         double maximum = 10.0;
         bool autoScale = false;
     };
-    struct CursorState {
-        double x = 0.0;
-        double y = 0.0;
-        int mode = 0;
-        bool visible = false;
-    };
     static std::size_t Index(platform::GraphAxis axis) { return axis == platform::GraphAxis::XAxis ? 0 : 1; }
     static int QwtAxis(platform::GraphAxis axis);
-    CursorState* Find(int cursor);
-    const CursorState* Find(int cursor) const;
 
     void ApplyPen();
     void Fit(platform::GraphAxis axis);
@@ -114,7 +107,7 @@ private:
     GraphOverlay* m_overlay; // owned by the canvas
     GraphMouse* m_mouse; // owned by this widget
     std::array<AxisState, 2> m_axes {};
-    std::array<CursorState, 2> m_cursors {};
+    platform::CursorPair m_cursors;
     int m_trackingMode = 6;
     CursorChangeHandler m_onCursorChange;
     int m_lineWidth = 3;

@@ -77,75 +77,12 @@ void FakeGraph::SetTrackingMode(int mode)
         trackingMode = mode;
 }
 
-FakeGraph::Cursor* FakeGraph::Find(int cursor)
-{
-    return cursor == 1 || cursor == 2 ? &cursors[static_cast<std::size_t>(cursor - 1)] : nullptr;
-}
-
-const FakeGraph::Cursor* FakeGraph::Find(int cursor) const
-{
-    return const_cast<FakeGraph*>(this)->Find(cursor);
-}
-
-void FakeGraph::SetCursorX(int cursor, double x)
-{
-    if (Cursor* c = Find(cursor))
-        c->x = c->mode == 1 && !points.empty()
-            ? static_cast<double>(platform::NearestSample(x, points.size()))
-            : x;
-}
-
-double FakeGraph::CursorX(int cursor) const
-{
-    const Cursor* c = Find(cursor);
-    if (c == nullptr)
-        return 0.0;
-    if (c->mode == 1 && !points.empty())
-        return static_cast<double>(platform::NearestSample(c->x, points.size()));
-    return c->x;
-}
-
-double FakeGraph::CursorY(int cursor) const
-{
-    const Cursor* c = Find(cursor);
-    if (c == nullptr)
-        return 0.0;
-    if (c->mode == 1)
-        return points.empty() ? 0.0 : points[platform::NearestSample(c->x, points.size())];
-    return c->y;
-}
-
-void FakeGraph::SetCursorMode(int cursor, int mode)
-{
-    if (Cursor* c = Find(cursor))
-        c->mode = mode;
-}
-
-int FakeGraph::CursorMode(int cursor) const
-{
-    const Cursor* c = Find(cursor);
-    return c ? c->mode : 0;
-}
-
-void FakeGraph::SetCursorVisible(int cursor, bool visible)
-{
-    if (Cursor* c = Find(cursor))
-        c->visible = visible;
-}
-
-bool FakeGraph::CursorVisible(int cursor) const
-{
-    const Cursor* c = Find(cursor);
-    return c && c->visible;
-}
-
 void FakeGraph::DragCursor(int cursor, double x, double y)
 {
-    Cursor* c = Find(cursor);
-    if (c == nullptr || !c->visible || trackingMode != 2)
+    if (!cursors.Visible(cursor) || trackingMode != 2)
         return;
     SetCursorX(cursor, x);
-    c->y = y;
+    cursors.SetFreeY(cursor, y);
     if (onCursorChange)
         onCursorChange(cursor, CursorX(cursor), CursorY(cursor));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/CursorPair.h"
 #include "platform/GraphControl.h"
 #include "platform/GraphRules.h"
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -21,12 +21,6 @@ public:
         double maximum = 10.0;
         bool autoScale = false;
         bool majorGrid = false;
-    };
-    struct Cursor {
-        double x = 0.0;
-        double y = 0.0;
-        int mode = 0;
-        bool visible = false;
     };
 
     void SetLineWidth(int width) override { Log("LineWidth", lineWidth = width); }
@@ -58,13 +52,16 @@ public:
 
     void SetTrackingMode(int mode) override;
     int TrackingMode() const override { return trackingMode; }
-    void SetCursorX(int cursor, double x) override;
-    double CursorX(int cursor) const override;
-    double CursorY(int cursor) const override;
-    void SetCursorMode(int cursor, int mode) override;
-    int CursorMode(int cursor) const override;
-    void SetCursorVisible(int cursor, bool visible) override;
-    bool CursorVisible(int cursor) const override;
+    void SetCursorX(int cursor, double x) override { cursors.SetX(cursor, x, points.size()); }
+    double CursorX(int cursor) const override { return cursors.X(cursor, points.size()); }
+    double CursorY(int cursor) const override
+    {
+        return cursors.Y(cursor, points.size(), [this](std::size_t sample) { return points[sample]; });
+    }
+    void SetCursorMode(int cursor, int mode) override { cursors.SetMode(cursor, mode); }
+    int CursorMode(int cursor) const override { return cursors.Mode(cursor); }
+    void SetCursorVisible(int cursor, bool visible) override { cursors.SetVisible(cursor, visible); }
+    bool CursorVisible(int cursor) const override { return cursors.Visible(cursor); }
     void SetOnCursorChange(CursorChangeHandler handler) override { onCursorChange = std::move(handler); }
 
     // A user drags visible cursor `cursor` to (x, y): it moves as a write would and the
@@ -87,7 +84,7 @@ public:
     int clears = 0;
     int redraws = 0;
     int trackingMode = 6;
-    std::array<Cursor, 2> cursors {};
+    platform::CursorPair cursors;
     CursorChangeHandler onCursorChange;
     std::vector<std::string> calls; // "LineWidth=2", "GridX=1" ...
 
@@ -98,8 +95,6 @@ private:
     }
     void Fit(platform::GraphAxis axis);
     void FitAutomaticAxes();
-    Cursor* Find(int cursor);
-    const Cursor* Find(int cursor) const;
 };
 
 } // namespace ventrix::fakes

@@ -90,14 +90,7 @@ TEST_F(PlotterTest, AutomaticScaleKeepsTwentyPerCentOutward)
 TEST_F(PlotterTest, ManualRangesAndTheRememberedExtents)
 {
     Plot({ 0.0 }, kOhms, "ohm");
-    rig.controls.AMPLITUDE_COMBO.AddItem("AUTO Amplitude Scale"); // as start-up fills it, with 4K at 13
-    for (int i = 1; i < 18; ++i)
-        rig.controls.AMPLITUDE_COMBO.AddItem("range");
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(0);
-    rig.controls.AMPLITUDE_COMBO.SetOnSelect(
-        [this] { plotter.SelectAmplitudeRange(rig.controls.AMPLITUDE_COMBO.ListIndex()); });
-
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(13);
+    plotter.SelectAmplitudeRange(13); // "4K"
     EXPECT_EQ(Y(), std::make_pair(0.0, 4000.0));
     EXPECT_EQ(rig.controls.AMPLITUDE_COMBO.ToolTip(), "Manual amplitude range");
     rig.state.IsRelative = true;
@@ -111,20 +104,18 @@ TEST_F(PlotterTest, ManualRangesAndTheRememberedExtents)
     rig.state.AutoXMin = 3.0;
     rig.state.AutoXMax = 7.0;
     rig.graph.xAxis.autoScale = true;
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(0);
+    plotter.SelectAmplitudeRange(0);
     EXPECT_EQ(Y(), std::make_pair(-1e-13, 1e-13));
     EXPECT_EQ(X(), std::make_pair(3.0, 7.0));
     EXPECT_FALSE(rig.graph.xAxis.autoScale || rig.graph.yAxis.autoScale);
 
     // After the log was cleared, AUTO shows the empty graph.
     rig.state.GraphEmpty = true;
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(5);
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(0);
+    plotter.SelectAmplitudeRange(0);
     EXPECT_EQ(Y(), std::make_pair(0.0, 40000000.0));
     EXPECT_EQ(X(), std::make_pair(0.0, 10.0));
     Read(1.0, kDcVolts);
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(5);
-    rig.controls.AMPLITUDE_COMBO.SetListIndex(0);
+    plotter.SelectAmplitudeRange(0);
     EXPECT_EQ(Y(), std::make_pair(-40000000.0, 40000000.0));
     EXPECT_EQ(rig.controls.AMPLITUDE_COMBO.ToolTip(),
         "Amplitude scale will automatically adjust to fit all samples");
