@@ -239,8 +239,12 @@ void Plotter::ShowEmptyGraph()
     const double top = s.AmplitudeRange != 0.0 ? s.AmplitudeRange : kEmptyGraphAmplitude;
     m_graph.SetAxisMinimum(GraphAxis::YAxis1, signedReading ? -top : 0.0);
     m_graph.SetAxisMaximum(GraphAxis::YAxis1, top);
-    m_graph.SetAxisMinimum(GraphAxis::XAxis, 0.0);
-    m_graph.SetAxisMaximum(GraphAxis::XAxis, s.SampleScale != 0 ? s.SampleScale : kEmptyGraphSamples);
+    if (s.SampleScale != 0) {
+        m_graph.SetAxisMinimum(GraphAxis::XAxis, 0.0);
+        m_graph.SetAxisMaximum(GraphAxis::XAxis, s.SampleScale);
+    } else {
+        m_graph.SetAutoScale(GraphAxis::XAxis, true); // 0..10 while empty, then all samples
+    }
     m_graph.Redraw();
 }
 

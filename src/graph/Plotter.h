@@ -40,9 +40,9 @@ public:
     // At the start of acquisition, after the plot was cleared: with a sample count chosen, the
     // time axis shows sample 0 to that count.
     void SetUpTimeAxis();
-    // After the log was cleared: the axes of an empty graph (amplitude -40M..40M for a signed
-    // reading, else 0..40M, unless a manual range is chosen; samples 0..10, or 0..N with a sample
-    // count chosen), redrawn.
+    // After the log was cleared: the axes of an empty graph, redrawn. Amplitude -40M..40M for a
+    // signed reading, else 0..40M, or the manual range chosen; samples 0..N with a sample count
+    // chosen, else the time axis follows the data again (0..10 while there is none).
     void ShowEmptyGraph();
 
     static constexpr double kEmptyGraphAmplitude = 40000000.0;

@@ -119,6 +119,12 @@ TEST_F(PlotterTest, ManualRangesAndTheRememberedExtents)
     EXPECT_EQ(Y(), std::make_pair(-40000000.0, 40000000.0));
     EXPECT_EQ(rig.controls.AMPLITUDE_COMBO.ToolTip(),
         "Amplitude scale will automatically adjust to fit all samples");
+    plotter.SelectAmplitudeRange(12); // "400"; what a cleared log shows then
+    rig.graph.ClearData();
+    plotter.ShowEmptyGraph();
+    EXPECT_EQ(Y(), std::make_pair(-400.0, 400.0));
+    EXPECT_EQ(X(), std::make_pair(0.0, 10.0));
+    EXPECT_TRUE(rig.graph.xAxis.autoScale);
     EXPECT_GE(rig.graph.redraws, 4);
 }
 
