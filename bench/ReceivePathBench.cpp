@@ -2,6 +2,7 @@
 // stream of mixed meter frames with noise between them, and the parts on their own. Also a long
 // run on nothing but garbage, reporting how much the resident set grew (it must not).
 
+#include "ResidentMemory.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
 #include "link/CaptureReplay.h"
@@ -15,7 +16,6 @@
 
 #include <array>
 #include <cstdint>
-#include <fstream>
 #include <random>
 #include <string>
 #include <vector>
@@ -100,21 +100,6 @@ struct Rig {
         while (services.Port().DeliverNext()) { }
     }
 };
-
-long ResidentKb()
-{
-    std::ifstream status("/proc/self/status");
-    std::string key;
-    long value = 0;
-    while (status >> key) {
-        if (key == "VmRSS:") {
-            status >> value;
-            return value;
-        }
-        status.ignore(1 << 10, '\n');
-    }
-    return 0;
-}
 
 void BM_CaptureReplayMixedStream(benchmark::State& state)
 {

@@ -9,7 +9,6 @@ namespace ventrix::app {
 namespace {
 constexpr const char* kTitle = "Ventrix";
 constexpr int kAnalogIntervalMs = 200;
-constexpr double kEmptyGraphAmplitude = 40000000.0;
 
 void Fill(platform::ComboBox& list, std::initializer_list<const char*> items)
 {
@@ -29,6 +28,8 @@ MainForm::MainForm(state::AppState& state, platform::MainControls& controls, pla
     , m_link(state, controls, services, m_lcd, m_gauge)
     , m_memory(state, controls.MEMORY_BAR)
     , m_appearance(controls, services.GRAPH_CWGraph)
+    , m_cursors(state, controls, services.GRAPH_CWGraph)
+    , m_plotter(state, controls, services.GRAPH_CWGraph, m_cursors)
     , m_settings(
           state, controls, services.GRAPH_CWGraph, services.paths, [this] { m_memory.UpdateMemoryGauge(); })
 {
@@ -131,7 +132,7 @@ void MainForm::Form_Load()
     // signed, no unit yet; no cursor readouts.
     graph.SetAxisCaption(platform::GraphAxis::YAxis1, "");
     graph.SetAxisMinimum(platform::GraphAxis::YAxis1, 0.0);
-    graph.SetAxisMaximum(platform::GraphAxis::YAxis1, kEmptyGraphAmplitude);
+    graph.SetAxisMaximum(platform::GraphAxis::YAxis1, graph::Plotter::kEmptyGraphAmplitude);
     for (platform::Label* label : c.CursorLabels())
         label->SetEnabled(false);
     graph.SetAxisCaption(platform::GraphAxis::XAxis, "Sample No.");
@@ -155,9 +156,7 @@ void MainForm::DisableUnfinishedCommands()
              &c.Save, &c.Save_As, &c.CMD_SAVE, // log text file
              &c.Excel, &c.CMD_EXCEL, // spreadsheet export
              &c.MENU_PRINT_GRAPH, &c.CMD_PRINT, // printing
-             &c.CLEAR_LOG, &c.CMD_RESET, // clearing the log
-             &c.AUTO_ZOOM, &c.CMD_ZOOM, // zoom all data
-             &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO }) // graph modes and scales
+             &c.CLEAR_LOG, &c.CMD_RESET }) // clearing the log
         control->SetEnabled(false);
 }
 
@@ -217,6 +216,17 @@ void MainForm::WireControls()
         c.POINT_ITEMS[i].SetOnClick([this, i] { m_appearance.SelectPointStyle(static_cast<int>(i)); });
     c.FILL.SetOnClick([this] { m_appearance.ToggleFill(); });
     c.Grid.SetOnClick([this] { m_appearance.ToggleGrid(); });
+
+    c.AMPLITUDE_COMBO.SetOnSelect(
+        [this] { m_plotter.SelectAmplitudeRange(m_controls.AMPLITUDE_COMBO.ListIndex()); });
+    c.SAMPLE_COMBO.SetOnSelect([this] { m_plotter.SelectSampleScale(m_controls.SAMPLE_COMBO.ListIndex()); });
+    c.GRAPH_MODE_COMBO.SetOnSelect(
+        [this] { m_cursors.SelectGraphMode(m_controls.GRAPH_MODE_COMBO.ListIndex()); });
+    c.AUTO_ZOOM.SetOnClick([this] { m_plotter.ZoomAllData(); });
+    c.CMD_ZOOM.SetOnClick([this] { m_plotter.ZoomAllData(); });
+    m_services.GRAPH_CWGraph.SetOnCursorChange(
+        [this](int cursor, double x, double y) { m_cursors.CursorMoved(cursor, x, y); });
+    m_link.SetTimeAxisSetUp([this] { m_plotter.SetUpTimeAxis(); });
 
     c.Exit.SetOnClick([this] { Quit(); });
     c.CMD_EXIT.SetOnClick([this] { Quit(); });

@@ -3,7 +3,9 @@
 #include "app/Settings.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
+#include "graph/GraphCursors.h"
 #include "graph/PlotAppearance.h"
+#include "graph/Plotter.h"
 #include "link/SerialLink.h"
 #include "log/MemoryGauge.h"
 #include "platform/MainControls.h"
@@ -33,6 +35,8 @@ public:
     display::AnalogGauge& Gauge() { return m_gauge; }
     Settings& SettingsFile() { return m_settings; }
     graph::PlotAppearance& Appearance() { return m_appearance; }
+    graph::Plotter& Plotter() { return m_plotter; }
+    graph::GraphCursors& Cursors() { return m_cursors; }
     log::MemoryGauge& Memory() { return m_memory; }
 
 private:
@@ -50,6 +54,8 @@ private:
     link::SerialLink m_link;
     log::MemoryGauge m_memory;
     graph::PlotAppearance m_appearance;
+    graph::GraphCursors m_cursors;
+    graph::Plotter m_plotter;
     Settings m_settings;
     bool m_ended = false; // the program has been ended: a later close request asks nothing
 };

@@ -69,13 +69,25 @@ private:
         void ClearData() override { }
         void AppendPoint(double) override { }
         void SetAxisCaption(platform::GraphAxis, const std::string&) override { }
+        std::string AxisCaption(platform::GraphAxis) const override { return {}; }
         void SetAxisMinimum(platform::GraphAxis, double) override { }
         double AxisMinimum(platform::GraphAxis) const override { return 0.0; }
         void SetAxisMaximum(platform::GraphAxis, double) override { }
         double AxisMaximum(platform::GraphAxis) const override { return 0.0; }
         void SetAutoScale(platform::GraphAxis, bool) override { }
+        bool AutoScale(platform::GraphAxis) const override { return false; }
         void AutoScaleNow(platform::GraphAxis) override { }
         void Redraw() override { }
+        void SetTrackingMode(int) override { }
+        int TrackingMode() const override { return 0; }
+        void SetCursorX(int, double) override { }
+        double CursorX(int) const override { return 0.0; }
+        double CursorY(int) const override { return 0.0; }
+        void SetCursorMode(int, int) override { }
+        int CursorMode(int) const override { return 0; }
+        void SetCursorVisible(int, bool) override { }
+        bool CursorVisible(int) const override { return false; }
+        void SetOnCursorChange(CursorChangeHandler) override { }
     };
 
     class NullKnob : public platform::KnobControl {

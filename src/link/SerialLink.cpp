@@ -103,6 +103,8 @@ void SerialLink::StartAcquisition()
     m_services.GRAPH_CWGraph.ClearData();
     m_state.GraphStartSlot = m_state.PageFill;
     m_state.GraphStartPage = m_state.SwapPageCount;
+    if (m_state.SampleScale != 0 && m_setUpTimeAxis)
+        m_setUpTimeAxis();
 
     // Port and sampling rate must not change while acquiring.
     SetOptionMenus(false);

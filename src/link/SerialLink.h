@@ -27,6 +27,9 @@ public:
     SerialLink(state::AppState& state, platform::MainControls& controls, platform::Services& services,
         display::VirtualLcd& lcd, display::AnalogGauge& gauge, RefusalHandler onRefusal = {});
 
+    // Called by StartAcquisition once the plot is cleared, to set up the graph's time axis.
+    void SetTimeAxisSetUp(std::function<void()> setUp) { m_setUpTimeAxis = std::move(setUp); }
+
     void StartAcquisition();
     void StopAcquisition();
     void OnComm(); // receive event of MSComm1
@@ -56,6 +59,7 @@ private:
     display::VirtualLcd& m_lcd;
     display::AnalogGauge& m_gauge;
     RefusalHandler m_onRefusal;
+    std::function<void()> m_setUpTimeAxis;
     int m_acceptedOffset = -1;
 };
 

@@ -1,15 +1,23 @@
 #include "ui/QwtGraphAdapter.h"
 
+#include "platform/GraphRules.h"
+#include "ui/AmplitudeScaleDraw.h"
+#include "ui/GraphMouse.h"
+#include "ui/GraphOverlay.h"
 #include "ui/SampleCurve.h"
+#include "ui/SampleScaleDraw.h"
 
 #include <QPen>
 #include <QTimer>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_grid.h>
-#include <qwt_scale_div.h>
+#include <qwt_scale_engine.h>
+#include <qwt_scale_map.h>
 #include <qwt_scale_widget.h>
 #include <qwt_symbol.h>
 #include <qwt_text.h>
+
+#include <cmath>
 
 namespace ventrix::ui {
 
@@ -65,6 +73,8 @@ QwtGraphAdapter::QwtGraphAdapter(QWidget* parent)
     : QwtPlot(parent)
     , m_curve(new SampleCurve(QStringLiteral("Plot-1")))
     , m_grid(new QwtPlotGrid)
+    , m_overlay(nullptr)
+    , m_mouse(nullptr)
 {
     setObjectName(QStringLiteral("GRAPH_CWGraph"));
     setAutoReplot(false);
@@ -79,6 +89,8 @@ QwtGraphAdapter::QwtGraphAdapter(QWidget* parent)
 
     enableAxis(QwtPlot::yRight, false);
     enableAxis(QwtPlot::xTop, false);
+    setAxisScaleDraw(QwtPlot::xBottom, new SampleScaleDraw);
+    setAxisScaleDraw(QwtPlot::yLeft, new AmplitudeScaleDraw);
     axisWidget(QwtPlot::xBottom)->setObjectName(QStringLiteral("XAxis"));
     axisWidget(QwtPlot::yLeft)->setObjectName(QStringLiteral("YAxis-1"));
     for (int axis : { QwtPlot::xBottom, QwtPlot::yLeft }) {
@@ -101,7 +113,15 @@ QwtGraphAdapter::QwtGraphAdapter(QWidget* parent)
     ApplyPen();
     ApplyScale(GraphAxis::XAxis);
     ApplyScale(GraphAxis::YAxis1);
+
+    m_overlay = new GraphOverlay(canvas());
+    m_mouse = new GraphMouse(*this);
+    canvas()->installEventFilter(m_mouse);
+    for (int axis : { QwtPlot::xBottom, QwtPlot::yLeft })
+        axisWidget(axis)->installEventFilter(m_mouse);
 }
+
+QwtGraphAdapter::~QwtGraphAdapter() = default;
 
 const SampleSeries& QwtGraphAdapter::Samples() const
 {
@@ -182,14 +202,31 @@ void QwtGraphAdapter::ApplyPen()
 void QwtGraphAdapter::ClearData()
 {
     m_curve->Series().Clear();
-    m_curve->itemChanged();
+    for (GraphAxis axis : { GraphAxis::XAxis, GraphAxis::YAxis1 })
+        if (m_axes[Index(axis)].autoScale)
+            Fit(axis);
+    UpdateOverlay();
     ScheduleReplot();
 }
 
 void QwtGraphAdapter::AppendPoint(double value)
 {
-    m_curve->Series().Append(value);
-    m_curve->itemChanged();
+    SampleSeries& series = m_curve->Series();
+    series.Append(value);
+    AxisState& x = m_axes[Index(GraphAxis::XAxis)];
+    if (x.autoScale) {
+        Fit(GraphAxis::XAxis);
+    } else {
+        const platform::AxisRange view
+            = platform::FollowAppendedSample({ x.minimum, x.maximum }, series.Count() - 1);
+        if (view.minimum != x.minimum || view.maximum != x.maximum) {
+            x.minimum = view.minimum;
+            x.maximum = view.maximum;
+            ApplyScale(GraphAxis::XAxis);
+        }
+    }
+    if (m_axes[Index(GraphAxis::YAxis1)].autoScale)
+        Fit(GraphAxis::YAxis1);
     ScheduleReplot();
 }
 
@@ -208,82 +245,62 @@ std::string QwtGraphAdapter::AxisCaption(GraphAxis axis) const
 
 void QwtGraphAdapter::SetAxisMinimum(GraphAxis axis, double value)
 {
-    SetAxisBound(axis, &AxisState::minimum, value);
+    AxisState& state = m_axes[Index(axis)];
+    SetView(axis, value, state.maximum);
 }
 
 void QwtGraphAdapter::SetAxisMaximum(GraphAxis axis, double value)
 {
-    SetAxisBound(axis, &AxisState::maximum, value);
-}
-
-void QwtGraphAdapter::SetAxisBound(GraphAxis axis, double AxisState::*bound, double value)
-{
-    // An explicit end takes the axis out of automatic scaling, keeping the other end where the
-    // automatic scale had put it.
     AxisState& state = m_axes[Index(axis)];
-    if (state.autoScale)
-        FreezeScale(axis);
-    state.*bound = value;
+    SetView(axis, state.minimum, value);
+}
+
+void QwtGraphAdapter::SetView(GraphAxis axis, double minimum, double maximum)
+{
+    // An explicit range takes the axis out of automatic scaling.
+    AxisState& state = m_axes[Index(axis)];
+    state.autoScale = false;
+    state.minimum = minimum;
+    state.maximum = maximum;
     ApplyScale(axis);
-}
-
-double QwtGraphAdapter::AxisMinimum(GraphAxis axis) const
-{
-    const AxisState& state = m_axes[Index(axis)];
-    if (!state.autoScale)
-        return state.minimum;
-    const_cast<QwtGraphAdapter*>(this)->updateAxes();
-    return axisScaleDiv(QwtAxis(axis)).lowerBound();
-}
-
-double QwtGraphAdapter::AxisMaximum(GraphAxis axis) const
-{
-    const AxisState& state = m_axes[Index(axis)];
-    if (!state.autoScale)
-        return state.maximum;
-    const_cast<QwtGraphAdapter*>(this)->updateAxes();
-    return axisScaleDiv(QwtAxis(axis)).upperBound();
 }
 
 void QwtGraphAdapter::SetAutoScale(GraphAxis axis, bool on)
 {
-    AxisState& state = m_axes[Index(axis)];
-    if (state.autoScale == on)
-        return;
-    if (on) {
-        state.autoScale = true;
-        setAxisAutoScale(QwtAxis(axis), true);
-        ScheduleReplot();
-    } else {
-        // Leaving automatic scaling keeps the range it last chose.
-        FreezeScale(axis);
-        ApplyScale(axis);
-    }
+    m_axes[Index(axis)].autoScale = on;
+    if (on)
+        Fit(axis);
 }
 
 void QwtGraphAdapter::AutoScaleNow(GraphAxis axis)
 {
-    // Scale once to the data, then hold that range.
-    setAxisAutoScale(QwtAxis(axis), true);
-    m_axes[Index(axis)].autoScale = true;
-    FreezeScale(axis);
-    ApplyScale(axis);
+    Fit(axis);
 }
 
-void QwtGraphAdapter::FreezeScale(GraphAxis axis)
+void QwtGraphAdapter::Fit(GraphAxis axis)
 {
     AxisState& state = m_axes[Index(axis)];
-    updateAxes();
-    const QwtScaleDiv& current = axisScaleDiv(QwtAxis(axis));
-    state.minimum = current.lowerBound();
-    state.maximum = current.upperBound();
-    state.autoScale = false;
+    const SampleSeries& series = m_curve->Series();
+    const platform::AxisRange range = axis == GraphAxis::XAxis
+        ? platform::FitSampleAxis(series.Count())
+        : platform::FitAmplitudeAxis(
+            series.Count(), series.Minimum(), series.Maximum(), { state.minimum, state.maximum });
+    state.minimum = range.minimum;
+    state.maximum = range.maximum;
+    ApplyScale(axis);
 }
 
 void QwtGraphAdapter::ApplyScale(GraphAxis axis)
 {
     const AxisState& state = m_axes[Index(axis)];
-    setAxisScale(QwtAxis(axis), state.minimum, state.maximum);
+    double step = 0.0; // Qwt's choice
+    if (axis == GraphAxis::XAxis) {
+        // Ticks on whole sample numbers only.
+        step = QwtScaleArithmetic::divideInterval(
+            std::abs(state.maximum - state.minimum), axisMaxMajor(QwtPlot::xBottom), 10);
+        step = std::max(1.0, std::round(step));
+    }
+    setAxisScale(QwtAxis(axis), state.minimum, state.maximum, step);
     ScheduleReplot();
 }
 
@@ -291,6 +308,7 @@ void QwtGraphAdapter::Redraw()
 {
     m_replotPending = false;
     replot();
+    UpdateOverlay();
 }
 
 void QwtGraphAdapter::ScheduleReplot()
@@ -302,6 +320,88 @@ void QwtGraphAdapter::ScheduleReplot()
         if (m_replotPending)
             Redraw();
     });
+}
+
+void QwtGraphAdapter::resizeEvent(QResizeEvent* event)
+{
+    QwtPlot::resizeEvent(event);
+    ScheduleReplot();
+}
+
+void QwtGraphAdapter::SetTrackingMode(int mode)
+{
+    if (mode == 2 || mode == 3 || mode == 6)
+        m_trackingMode = mode;
+}
+
+void QwtGraphAdapter::SetCursorX(int cursor, double x)
+{
+    m_cursors.SetX(cursor, x, Samples().Count());
+    UpdateOverlay();
+}
+
+double QwtGraphAdapter::CursorX(int cursor) const
+{
+    return m_cursors.X(cursor, Samples().Count());
+}
+
+double QwtGraphAdapter::CursorY(int cursor) const
+{
+    return m_cursors.Y(
+        cursor, Samples().Count(), [this](std::size_t sample) { return Samples().Value(sample); });
+}
+
+void QwtGraphAdapter::SetCursorMode(int cursor, int mode)
+{
+    m_cursors.SetMode(cursor, mode);
+    UpdateOverlay();
+}
+
+void QwtGraphAdapter::SetCursorVisible(int cursor, bool visible)
+{
+    m_cursors.SetVisible(cursor, visible);
+    UpdateOverlay();
+}
+
+int QwtGraphAdapter::NearestCursor(double column) const
+{
+    const QwtScaleMap xMap = canvasMap(QwtPlot::xBottom);
+    int nearest = 0;
+    double distance = 0.0;
+    for (int cursor : { 1, 2 }) {
+        if (!CursorVisible(cursor))
+            continue;
+        const double d = std::abs(xMap.transform(CursorX(cursor)) - column);
+        if (nearest == 0 || d < distance) {
+            nearest = cursor;
+            distance = d;
+        }
+    }
+    return nearest;
+}
+
+void QwtGraphAdapter::DragCursor(int cursor, const QPointF& canvasPoint)
+{
+    if (!CursorVisible(cursor))
+        return;
+    const double before = CursorX(cursor);
+    SetCursorX(cursor, canvasMap(QwtPlot::xBottom).invTransform(canvasPoint.x()));
+    m_cursors.SetFreeY(cursor, canvasMap(QwtPlot::yLeft).invTransform(canvasPoint.y()));
+    if (CursorMode(cursor) == platform::CursorPair::kOnSamples && CursorX(cursor) == before)
+        return; // still on the same sample
+    if (m_onCursorChange)
+        m_onCursorChange(cursor, CursorX(cursor), CursorY(cursor));
+}
+
+void QwtGraphAdapter::UpdateOverlay()
+{
+    if (m_overlay == nullptr)
+        return;
+    const QwtScaleMap xMap = canvasMap(QwtPlot::xBottom);
+    const QwtScaleMap yMap = canvasMap(QwtPlot::yLeft);
+    for (int cursor : { 1, 2 })
+        m_overlay->SetCursor(
+            cursor, CursorVisible(cursor), xMap.transform(CursorX(cursor)), yMap.transform(CursorY(cursor)));
 }
 
 } // namespace ventrix::ui

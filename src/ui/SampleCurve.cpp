@@ -1,16 +1,50 @@
 #include "ui/SampleCurve.h"
 
 #include <QPainter>
-#include <qwt_clipper.h>
-#include <qwt_painter.h>
 #include <qwt_scale_map.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace ventrix::ui {
+
+namespace {
+// Which pixel columns a dashed pen draws along X: its dash pattern in pixels, on and off.
+class DashColumns {
+public:
+    explicit DashColumns(const QPen& pen)
+    {
+        if (pen.style() == Qt::SolidLine)
+            return;
+        const int unit = std::max(1, pen.width());
+        for (qreal length : pen.dashPattern())
+            m_lengths.push_back(std::max(1, static_cast<int>(std::lround(length * unit))));
+        for (int length : m_lengths)
+            m_period += length;
+    }
+    bool Draws(int column) const
+    {
+        if (m_period == 0)
+            return true;
+        int position = ((column % m_period) + m_period) % m_period;
+        for (std::size_t i = 0; i < m_lengths.size(); ++i) {
+            if (position < m_lengths[i])
+                return i % 2 == 0;
+            position -= m_lengths[i];
+        }
+        return true;
+    }
+
+private:
+    std::vector<int> m_lengths;
+    int m_period = 0;
+};
+} // namespace
 
 SampleCurve::SampleCurve(const QString& title)
     : QwtPlotItem(QwtText(title))
 {
-    setItemAttribute(QwtPlotItem::AutoScale, true);
+    setItemAttribute(QwtPlotItem::AutoScale, false); // the graph scales its axes itself
     setItemAttribute(QwtPlotItem::Legend, false);
     setRenderHint(QwtPlotItem::RenderAntialiased, false);
     setZ(20.0);
@@ -19,52 +53,89 @@ SampleCurve::SampleCurve(const QString& title)
 void SampleCurve::draw(
     QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap, const QRectF& canvasRect) const
 {
-    const QPolygonF samples = m_series.VisiblePoints(xMap, canvasRect.width());
-    if (samples.isEmpty())
+    if (m_series.Count() == 0)
         return;
-
-    QPolygonF points(samples.size());
-    for (int i = 0; i < samples.size(); ++i)
-        points[i] = QPointF(xMap.transform(samples[i].x()), yMap.transform(samples[i].y()));
-
-    QPolygonF line;
-    if (m_shape == Shape::Steps && points.size() > 1) {
-        // Hold each value until the next sample, then jump.
-        line.reserve(points.size() * 2 - 1);
-        line.append(points.first());
-        for (int i = 1; i < points.size(); ++i) {
-            line.append(QPointF(points[i].x(), points[i - 1].y()));
-            line.append(points[i]);
-        }
-    } else {
-        line = points;
-    }
-
-    // Far-off points (zoomed in) are clipped to a margin around the canvas before drawing.
-    const QRectF clip = canvasRect.adjusted(-10.0, -10.0, 10.0, 10.0);
+    const int left = static_cast<int>(std::floor(canvasRect.left()));
+    const int right = static_cast<int>(std::ceil(canvasRect.right())) + 1;
+    const std::vector<SampleSeries::Column> columns
+        = m_series.Columns(xMap, yMap, left, right, m_shape == Shape::Steps);
+    QVector<QRect> rects;
+    rects.reserve(static_cast<int>(columns.size()));
     painter->save();
-    if (m_brush.style() != Qt::NoBrush && line.size() > 1) {
-        const double base = yMap.transform(m_baseline);
-        QPolygonF area = line;
-        area.append(QPointF(line.last().x(), base));
-        area.append(QPointF(line.first().x(), base));
-        painter->setPen(Qt::NoPen);
+    painter->setPen(Qt::NoPen);
+
+    const bool lineDrawn = m_pen.style() != Qt::NoPen;
+    const DashColumns dashes(m_pen);
+    if (m_brush.style() != Qt::NoBrush && !columns.empty()) {
+        // From the line to the base row, as two outlines (above and below the base) that fill
+        // row by row: far fewer spans than one thin rectangle per column. Where the line is
+        // drawn over a column the outline may end anywhere within the line's rows; it keeps as
+        // level as it can there, so noisy data does not give it thousands of edges.
+        const int base = static_cast<int>(std::lround(std::clamp(yMap.transform(m_baseline), -1e6, 1e6)));
         painter->setBrush(m_brush);
-        painter->drawPolygon(QwtClipper::clipPolygonF(clip, area, true));
+        for (const bool above : { true, false }) {
+            const int edge = above ? base + 1 : base; // where the outline runs along the base
+            QPolygon outline;
+            outline.reserve(static_cast<int>(columns.size()) * 2 + 4);
+            int next = columns.front().x;
+            int row = edge;
+            outline.append(QPoint(next, edge));
+            for (const SampleSeries::Column& c : columns) {
+                if (c.x != next) { // a gap without data: back to the base and along it
+                    outline.append(QPoint(next, edge));
+                    outline.append(QPoint(c.x, edge));
+                }
+                const int outer = above ? std::min(c.top, base) : std::max(c.bottom, base) + 1;
+                const int inner = above ? std::min(c.bottom, base) : std::max(c.top, base) + 1;
+                if (lineDrawn && dashes.Draws(c.x))
+                    row = std::clamp(row, std::min(outer, inner), std::max(outer, inner));
+                else
+                    row = outer;
+                if (outline.size() < 2 || outline.back().y() != row) {
+                    outline.append(QPoint(c.x, row));
+                    outline.append(QPoint(c.x + 1, row));
+                } else {
+                    outline.back().setX(c.x + 1);
+                }
+                next = c.x + 1;
+            }
+            outline.append(QPoint(next, edge));
+            painter->drawPolygon(outline);
+        }
     }
-    if (m_pen.style() != Qt::NoPen) {
-        painter->setPen(m_pen);
-        painter->setBrush(Qt::NoBrush);
-        // Qwt's polyline splits long runs into short pieces: wide and dashed pens stroke many
-        // times faster that way on raster devices.
-        if (line.size() > 1)
-            QwtPainter::drawPolyline(painter, QwtClipper::clipPolygonF(clip, line, false));
-        else
-            painter->drawPoint(line.first());
+    if (lineDrawn) {
+        // A pen w pixels wide covers w columns and w more rows around what a thin line covers.
+        const int width = std::max(1, m_pen.width());
+        const int before = (width - 1) / 2;
+        for (const SampleSeries::Column& c : columns)
+            if (dashes.Draws(c.x))
+                rects.append(QRect(c.x - before, c.top - before, width, c.bottom - c.top + width));
+        painter->setBrush(m_pen.color());
+        painter->drawRects(rects);
     }
     if (m_symbol && m_symbol->style() != QwtSymbol::NoSymbol)
-        m_symbol->drawSymbols(painter, points);
+        DrawSymbols(painter, xMap, yMap, canvasRect, columns);
     painter->restore();
+}
+
+void SampleCurve::DrawSymbols(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+    const QRectF& canvasRect, const std::vector<SampleSeries::Column>& columns) const
+{
+    QPolygonF points;
+    if (m_series.IsDense(xMap, canvasRect.width())) {
+        points.reserve(static_cast<int>(columns.size()) * 2);
+        for (const SampleSeries::Column& c : columns) {
+            const double x = c.x + 0.5;
+            points.append(QPointF(x, yMap.transform(c.smallest)));
+            if (c.largest != c.smallest)
+                points.append(QPointF(x, yMap.transform(c.largest)));
+        }
+    } else {
+        points = m_series.VisiblePoints(xMap);
+        for (QPointF& point : points)
+            point = QPointF(xMap.transform(point.x()), yMap.transform(point.y()));
+    }
+    m_symbol->drawSymbols(painter, points);
 }
 
 } // namespace ventrix::ui

@@ -12,10 +12,12 @@
 namespace ventrix::ui {
 
 // The plotted curve: the samples as a line (straight or in steps), optionally filled down to a
-// base line and marked with a symbol at each drawn point. Draws only what is visible, thinned
-// to the pixel columns when dense (see SampleSeries), so a full log paints in milliseconds;
-// symbols on a thinned run mark the thinned points only. Takes part in autoscaling with the
-// extent of all samples.
+// base line and marked with a symbol at each sample. Draws only what is visible, one pixel
+// column at a time (see SampleSeries::Columns): the line as the rows it covers there widened to
+// the pen's width, a dashed pen broken into its dash pattern along X, the fill from the line to
+// the base line; symbols on every sample where there are few per column, else on each column's
+// smallest and largest sample. A full log draws as fast as a short one, and as the raw line
+// would look without anti-aliasing.
 class SampleCurve : public QwtPlotItem {
 public:
     enum class Shape { Lines, Steps };
@@ -41,6 +43,9 @@ public:
     const QwtSymbol* Symbol() const { return m_symbol.get(); }
 
 private:
+    void DrawSymbols(QPainter* painter, const QwtScaleMap& xMap, const QwtScaleMap& yMap,
+        const QRectF& canvasRect, const std::vector<SampleSeries::Column>& columns) const;
+
     SampleSeries m_series;
     QPen m_pen;
     QBrush m_brush { Qt::NoBrush };

@@ -134,5 +134,35 @@ TEST_F(MainFormTest, MenusReachTheirHandlersAndTheChoicesOutliveTheRun)
     EXPECT_EQ(rig.dialogs.boxes.size(), 1u);
 }
 
+// The graph's lists, zoom-all and the cursor event reach their handlers; a chosen sample count
+// sets up the time axis when acquisition starts.
+TEST_F(MainFormTest, GraphControlsReachTheirHandlers)
+{
+    form.Form_Load();
+    platform::MainControls& c = rig.controls;
+    for (platform::Control* control : std::initializer_list<platform::Control*> {
+             &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO, &c.AUTO_ZOOM, &c.CMD_ZOOM })
+        EXPECT_TRUE(control->Enabled()) << control->Name();
+    EXPECT_EQ(c.SAMPLE_COMBO.ToolTip(), "Time scale will automatically adjust to fit all samples");
+
+    c.SAMPLE_COMBO.SetListIndex(2);
+    EXPECT_EQ(rig.state.SampleScale, 20);
+    rig.graph.SetAxisMaximum(platform::GraphAxis::XAxis, 400.0);
+    c.CMD_PLAY.Click();
+    EXPECT_EQ(rig.graph.xAxis.minimum, 0.0);
+    EXPECT_EQ(rig.graph.xAxis.maximum, 20.0);
+
+    c.AMPLITUDE_COMBO.SetListIndex(17);
+    EXPECT_EQ(rig.graph.yAxis.maximum, 40000000.0);
+    c.AUTO_ZOOM.Click();
+    EXPECT_EQ(c.AMPLITUDE_COMBO.ListIndex() + c.SAMPLE_COMBO.ListIndex(), 0);
+
+    rig.graph.points = { 1.0, 2.0, 3.0 };
+    c.GRAPH_MODE_COMBO.SetListIndex(2);
+    EXPECT_EQ(rig.graph.trackingMode, 2);
+    rig.graph.DragCursor(2, 2.0);
+    EXPECT_EQ(c.X2_VAL_LBL.Caption(), "2s");
+}
+
 } // namespace
 } // namespace ventrix::app

@@ -1,13 +1,18 @@
 #pragma once
 
+#include "platform/CursorPair.h"
 #include "platform/GraphControl.h"
+#include "platform/GraphRules.h"
 
 #include <string>
 #include <vector>
 
 namespace ventrix::fakes {
 
-// A graph that records its plot and axis state, and the order of the calls made to it.
+// A graph that keeps its plot, axis and cursor state as the real one does (points one step
+// further along X, automatic scaling fitting the data, written ranges held, the strip-chart
+// scroll, cursors standing on the samples) and records the order of the appearance calls.
+// DragCursor plays a user's drag of a cursor.
 class FakeGraph : public platform::GraphControl {
 public:
     struct Axis {
@@ -30,18 +35,38 @@ public:
     bool MajorGrid(platform::GraphAxis axis) const override { return Of(axis).majorGrid; }
 
     void ClearData() override;
-    void AppendPoint(double value) override { points.push_back(value); }
+    void AppendPoint(double value) override;
     void SetAxisCaption(platform::GraphAxis axis, const std::string& caption) override
     {
         Of(axis).caption = caption;
     }
-    void SetAxisMinimum(platform::GraphAxis axis, double value) override { Of(axis).minimum = value; }
+    std::string AxisCaption(platform::GraphAxis axis) const override { return Of(axis).caption; }
+    void SetAxisMinimum(platform::GraphAxis axis, double value) override;
     double AxisMinimum(platform::GraphAxis axis) const override { return Of(axis).minimum; }
-    void SetAxisMaximum(platform::GraphAxis axis, double value) override { Of(axis).maximum = value; }
+    void SetAxisMaximum(platform::GraphAxis axis, double value) override;
     double AxisMaximum(platform::GraphAxis axis) const override { return Of(axis).maximum; }
-    void SetAutoScale(platform::GraphAxis axis, bool on) override { Of(axis).autoScale = on; }
-    void AutoScaleNow(platform::GraphAxis axis) override;
+    void SetAutoScale(platform::GraphAxis axis, bool on) override;
+    bool AutoScale(platform::GraphAxis axis) const override { return Of(axis).autoScale; }
+    void AutoScaleNow(platform::GraphAxis axis) override { Fit(axis); }
     void Redraw() override { ++redraws; }
+
+    void SetTrackingMode(int mode) override;
+    int TrackingMode() const override { return trackingMode; }
+    void SetCursorX(int cursor, double x) override { cursors.SetX(cursor, x, points.size()); }
+    double CursorX(int cursor) const override { return cursors.X(cursor, points.size()); }
+    double CursorY(int cursor) const override
+    {
+        return cursors.Y(cursor, points.size(), [this](std::size_t sample) { return points[sample]; });
+    }
+    void SetCursorMode(int cursor, int mode) override { cursors.SetMode(cursor, mode); }
+    int CursorMode(int cursor) const override { return cursors.Mode(cursor); }
+    void SetCursorVisible(int cursor, bool visible) override { cursors.SetVisible(cursor, visible); }
+    bool CursorVisible(int cursor) const override { return cursors.Visible(cursor); }
+    void SetOnCursorChange(CursorChangeHandler handler) override { onCursorChange = std::move(handler); }
+
+    // A user drags visible cursor `cursor` to (x, y): it moves as a write would and the
+    // cursor-change event is raised with where it ended up.
+    void DragCursor(int cursor, double x, double y = 0.0);
 
     Axis& Of(platform::GraphAxis axis) { return axis == platform::GraphAxis::XAxis ? xAxis : yAxis; }
     const Axis& Of(platform::GraphAxis axis) const
@@ -58,6 +83,9 @@ public:
     std::vector<double> points;
     int clears = 0;
     int redraws = 0;
+    int trackingMode = 6;
+    platform::CursorPair cursors;
+    CursorChangeHandler onCursorChange;
     std::vector<std::string> calls; // "LineWidth=2", "GridX=1" ...
 
 private:
@@ -65,6 +93,8 @@ private:
     {
         calls.push_back(std::string(what) + "=" + std::to_string(value));
     }
+    void Fit(platform::GraphAxis axis);
+    void FitAutomaticAxes();
 };
 
 } // namespace ventrix::fakes
