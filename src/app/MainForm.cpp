@@ -30,6 +30,11 @@ MainForm::MainForm(state::AppState& state, platform::MainControls& controls, pla
     , m_appearance(controls, services.GRAPH_CWGraph)
     , m_cursors(state, controls, services.GRAPH_CWGraph)
     , m_plotter(state, controls, services.GRAPH_CWGraph, m_cursors)
+    , m_logger(state, controls, services, m_memory, m_link, [this] { m_plotter.PlotSample(); })
+    , m_dataLog(state, controls, services, m_memory, m_link, m_logger, [this] { m_plotter.ShowEmptyGraph(); })
+    , m_simulator(
+          state, m_link, services.timers.DEBUG_TIMER, services.clock, [this] { m_logger.AppendSample(); },
+          [this] { m_plotter.PlotSample(); })
     , m_settings(
           state, controls, services.GRAPH_CWGraph, services.paths, [this] { m_memory.UpdateMemoryGauge(); })
 {
@@ -149,14 +154,11 @@ void MainForm::Form_Load()
 void MainForm::DisableUnfinishedCommands()
 {
     platform::MainControls& c = m_controls;
-    // Not wired yet either, and left alone here: SAMPLE_TIMER and DEBUG_TIMER have no tick
-    // handler; CMD_PAGEUP and CMD_PAGEDOWN are disabled by start-up itself.
     for (platform::Control* control : std::initializer_list<platform::Control*> { &c.MENU_OPEN_GRAPH,
              &c.MENU_SAVE_GRAPH, &c.MENU_SAVE_GRAPG_AS, // graph file
              &c.Save, &c.Save_As, &c.CMD_SAVE, // log text file
              &c.Excel, &c.CMD_EXCEL, // spreadsheet export
-             &c.MENU_PRINT_GRAPH, &c.CMD_PRINT, // printing
-             &c.CLEAR_LOG, &c.CMD_RESET }) // clearing the log
+             &c.MENU_PRINT_GRAPH, &c.CMD_PRINT }) // printing
         control->SetEnabled(false);
 }
 
@@ -227,6 +229,13 @@ void MainForm::WireControls()
     m_services.GRAPH_CWGraph.SetOnCursorChange(
         [this](int cursor, double x, double y) { m_cursors.CursorMoved(cursor, x, y); });
     m_link.SetTimeAxisSetUp([this] { m_plotter.SetUpTimeAxis(); });
+
+    timers.SAMPLE_TIMER.SetOnTick([this] { m_logger.SampleTimerTick(); });
+    timers.DEBUG_TIMER.SetOnTick([this] { m_simulator.DebugTimerTick(); });
+    c.CMD_PAGEUP.SetOnClick([this] { m_dataLog.ShowPreviousPage(); });
+    c.CMD_PAGEDOWN.SetOnClick([this] { m_dataLog.ShowNextPage(); });
+    c.CMD_RESET.SetOnClick([this] { m_dataLog.ClearLog(); });
+    c.CLEAR_LOG.SetOnClick([this] { m_dataLog.ClearLog(); });
 
     c.Exit.SetOnClick([this] { Quit(); });
     c.CMD_EXIT.SetOnClick([this] { Quit(); });

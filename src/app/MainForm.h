@@ -6,8 +6,11 @@
 #include "graph/GraphCursors.h"
 #include "graph/PlotAppearance.h"
 #include "graph/Plotter.h"
+#include "link/FrameSimulator.h"
 #include "link/SerialLink.h"
+#include "log/DataLogWindow.h"
 #include "log/MemoryGauge.h"
+#include "log/SampleLogger.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
 #include "state/AppState.h"
@@ -38,6 +41,9 @@ public:
     graph::Plotter& Plotter() { return m_plotter; }
     graph::GraphCursors& Cursors() { return m_cursors; }
     log::MemoryGauge& Memory() { return m_memory; }
+    log::SampleLogger& Logger() { return m_logger; }
+    log::DataLogWindow& DataLog() { return m_dataLog; }
+    link::FrameSimulator& Simulator() { return m_simulator; }
 
 private:
     void WireControls();
@@ -56,6 +62,9 @@ private:
     graph::PlotAppearance m_appearance;
     graph::GraphCursors m_cursors;
     graph::Plotter m_plotter;
+    log::SampleLogger m_logger;
+    log::DataLogWindow m_dataLog;
+    link::FrameSimulator m_simulator;
     Settings m_settings;
     bool m_ended = false; // the program has been ended: a later close request asks nothing
 };

@@ -48,10 +48,11 @@ public:
     // every way out of acquiring (and the program's end) does to the timers.
     void StopTimers();
 
-private:
-    void RefuseRelativeStart();
     void SetCommands(bool acquiring); // IsAcquiring with the start and stop buttons and menus
     void SetOptionMenus(bool enabled); // COM and RATE
+
+private:
+    void RefuseRelativeStart();
 
     state::AppState& m_state;
     platform::MainControls& m_controls;

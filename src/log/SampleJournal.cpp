@@ -73,7 +73,7 @@ bool SampleJournal::StartPage(int swapPages, const std::filesystem::path& swapFi
     const auto pages = static_cast<std::uint32_t>(swapPages);
     for (int i = 0; i < 4; ++i)
         header[4 + i] = static_cast<unsigned char>(pages >> (8 * i));
-    m_unsynced = 0;
+    m_lastSync = std::chrono::steady_clock::now();
     return journal.Write(header, sizeof header) && journal.Sync();
 }
 
@@ -82,8 +82,9 @@ bool SampleJournal::Append(const SampleRecord& record)
     PosixFile journal(m_file, O_WRONLY | O_APPEND);
     if (!journal.IsOpen() || !journal.Write(record.data(), record.size()))
         return false;
-    if (++m_unsynced >= kSyncEvery) {
-        m_unsynced = 0;
+    const auto now = std::chrono::steady_clock::now();
+    if (now - m_lastSync >= kSyncSeconds) {
+        m_lastSync = now;
         journal.Sync();
     }
     return true;

@@ -3,6 +3,7 @@
 #include "state/AppState.h"
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <vector>
@@ -14,12 +15,12 @@ using state::SampleRecord;
 // A crash journal beside the swap file ("BUFFER.JNL"): an 8-byte header ("VXJ1" and the number of
 // swap pages that belong to the log, little-endian 32 bits), then the records of the memory page
 // in the order they were taken. Each record goes to the operating system as it is taken, so a
-// killed process loses nothing; the file is synced to disk every kSyncEvery records and whenever a
-// page starts, so a power cut loses at most the records since the last sync. The swap file and
-// the window know nothing of it; only recovery reads it.
+// killed process loses nothing; the file is synced to disk every kSyncSeconds and whenever a
+// page starts, so a power cut loses at most the records of the last kSyncSeconds. The swap file
+// and the window know nothing of it; only recovery reads it.
 class SampleJournal {
 public:
-    static constexpr int kSyncEvery = 10;
+    static constexpr std::chrono::seconds kSyncSeconds { 5 };
     static constexpr std::size_t kHeaderBytes = 8;
 
     explicit SampleJournal(std::filesystem::path file);
@@ -54,7 +55,7 @@ public:
 
 private:
     std::filesystem::path m_file;
-    int m_unsynced = 0;
+    std::chrono::steady_clock::time_point m_lastSync {};
 };
 
 } // namespace ventrix::log

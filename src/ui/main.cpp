@@ -60,7 +60,8 @@ int main(int argc, char** argv)
     // Two loggers on one data directory would overwrite each other's swap file.
     io::DataDirectoryLock lock(paths.ProgramDirectory());
     if (!lock.TryLock()) {
-        QMessageBox::warning(nullptr, QStringLiteral("Ventrix"), QString::fromStdString(lock.RefusalMessage()));
+        QMessageBox::warning(
+            nullptr, QStringLiteral("Ventrix"), QString::fromStdString(lock.RefusalMessage()));
         return 1;
     }
     platform::UnavailableSpreadsheet spreadsheet;
@@ -81,6 +82,12 @@ int main(int argc, char** argv)
     shell.SetOnHelp([&help](platform::HelpView view) { help.Show(view); });
 
     form.Form_Load();
+    // Developer setting: VENTRIX_SIMULATOR_MS=<interval> feeds the log and the graph from the frame
+    // simulator on DEBUG_TIMER, without a meter. Stop switches it off.
+    if (const int simulatorMs = qEnvironmentVariableIntValue("VENTRIX_SIMULATOR_MS"); simulatorMs > 0) {
+        services.timers.DEBUG_TIMER.SetInterval(simulatorMs);
+        services.timers.DEBUG_TIMER.SetEnabled(true);
+    }
     window.show();
     return QApplication::exec();
 }
