@@ -34,6 +34,8 @@ text is in /usr/share/doc/libqwt-qt5-6/copyright on Debian.</p>
 
 <h3>libxlsxwriter</h3>
 <p>Copyright &copy; 2014-2021 John McNamara. All rights reserved.</p>
+<p>libxlsxwriter, which writes the spreadsheet export, is licensed under the BSD 2-Clause
+licence:</p>
 <p>Redistribution and use in source and binary forms, with or without modification, are
 permitted provided that the following conditions are met:</p>
 <ol>

@@ -141,6 +141,7 @@ MainWindow::MainWindow(platform::MainControls& controls, io::ModalGate& gate, QW
     m_scroll->horizontalScrollBar()->setObjectName(Name("HScroll"));
     m_scroll->verticalScrollBar()->setObjectName(Name("VScroll"));
     m_scroll->installEventFilter(this);
+    panel->installEventFilter(this);
     setCentralWidget(m_scroll);
 
     statusBar()->setObjectName(Name("STATUS_BAR"));
@@ -440,7 +441,10 @@ void MainWindow::FrameArrived()
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_scroll && event->type() == QEvent::Resize)
+    // The room changes with the window; the minimum sizes around the meter change when the
+    // style is applied or a list gets its items.
+    if ((watched == m_scroll && event->type() == QEvent::Resize)
+        || (watched == m_scroll->widget() && event->type() == QEvent::LayoutRequest))
         FitMeter();
     return QMainWindow::eventFilter(watched, event);
 }
@@ -451,25 +455,31 @@ void MainWindow::FitMeter()
     // assumed, so that style changes do not upset the arithmetic.
     const QSize meterContent(m_lcd->width() + kSpacing + m_knob->width(), m_lcd->height());
     const QSize meterChrome = m_meterGroup->minimumSizeHint() - meterContent;
-    const QMargins panelMargins = m_scroll->widget()->layout()->contentsMargins();
-    const int panelChrome = panelMargins.top() + panelMargins.bottom() + kSpacing;
+    const QMargins margins = m_scroll->widget()->layout()->contentsMargins();
+    const QSize logMinimum = m_logGroup->minimumSizeHint();
 
+    // The meter takes its share of the width, leaving the data log its minimum, and its share of
+    // the height, leaving the graph its minimum.
     const QSize room = m_scroll->size();
-    const double byWidth
-        = (room.width() * kMeterWidthShare - meterChrome.width() - kSpacing) / (LcdPanel::kAspect + 1.0);
-    const double byHeight = std::min<double>(room.height() * kMeterHeightShare,
-        room.height() - panelChrome - m_graphGroup->minimumSizeHint().height() - meterChrome.height());
+    const double meterWidth = std::min(room.width() * kMeterWidthShare,
+        static_cast<double>(room.width() - margins.left() - margins.right() - kSpacing - logMinimum.width()));
+    const double byWidth = (meterWidth - meterChrome.width() - kSpacing) / (LcdPanel::kAspect + 1.0);
+    const double rowHeight = std::min(room.height() * kMeterHeightShare,
+        static_cast<double>(room.height() - margins.top() - margins.bottom() - kSpacing
+            - m_graphGroup->minimumSizeHint().height()));
+    const double byHeight = rowHeight - meterChrome.height();
     const int height
         = std::clamp(static_cast<int>(std::min(byWidth, byHeight)), kMinMeterHeight, kMaxMeterHeight);
-    if (height == m_lcd->height() && m_meterGroup->maximumHeight() < QWIDGETSIZE_MAX)
-        return;
-    m_lcd->setFixedSize(static_cast<int>(std::lround(height * LcdPanel::kAspect)), height);
-    m_knob->setFixedSize(height, height);
+    const QSize lcd(static_cast<int>(std::lround(height * LcdPanel::kAspect)), height);
     // The row is as tall as the meter; the data log beside it fits itself in, and the graph
     // takes everything below.
-    const int rowHeight = std::max(height + meterChrome.height(), m_logGroup->minimumSizeHint().height());
-    m_meterGroup->setFixedHeight(rowHeight);
-    m_logGroup->setFixedHeight(rowHeight);
+    const int row = std::max(height + meterChrome.height(), logMinimum.height());
+    if (m_lcd->size() == lcd && m_meterGroup->height() == row && m_logGroup->maximumHeight() == row)
+        return;
+    m_lcd->setFixedSize(lcd);
+    m_knob->setFixedSize(height, height);
+    m_meterGroup->setFixedHeight(row);
+    m_logGroup->setFixedHeight(row);
 }
 
 void MainWindow::CloseWithoutAsking()
