@@ -328,7 +328,7 @@ void LcdLabel::PaintUnit(QPainter& painter, const QRectF& area, const QColor& in
         const double gap = m_legendPixels * 0.35;
         const double acBottom = baseline - QFontMetricsF(WordFont(m_legendPixels)).capHeight() - gap;
         PaintWord(painter, QRectF(area.left(), area.top(), area.width(), acBottom - area.top()),
-            QStringLiteral("AC"), m_legendPixels * 0.48, ink, Qt::AlignRight | Qt::AlignBottom);
+            QStringLiteral("AC"), m_legendPixels * 0.56, ink, Qt::AlignRight | Qt::AlignBottom);
     }
 }
 

@@ -25,8 +25,8 @@ struct Placement {
 };
 
 // Legend heights on the grid: one for every annunciator word, one for the unit.
-constexpr double kAnnunciatorPixels = 13.0;
-constexpr double kUnitPixels = 27.0;
+constexpr double kAnnunciatorPixels = 14.0;
+constexpr double kUnitPixels = 25.0;
 
 const std::array<Placement, 8> kPlacements { {
     { "AUTO_LBL", LcdLabel::Role::Annunciator, { 20, 13, 50, 20 } },
@@ -36,7 +36,7 @@ const std::array<Placement, 8> kPlacements { {
     { "MIN_LBL", LcdLabel::Role::Annunciator, { 350, 13, 50, 20 } },
     { "NEG_LBL", LcdLabel::Role::Minus, { 16, 38, 38, 98 } },
     { "DIGIT_LBL", LcdLabel::Role::Digits, { 56, 38, 272, 98 } },
-    { "MODE_LBL", LcdLabel::Role::Unit, { 330, 38, 78, 96 } },
+    { "MODE_LBL", LcdLabel::Role::Unit, { 328, 38, 82, 96 } },
 } };
 
 } // namespace

@@ -46,7 +46,12 @@ constexpr int kSidePanelWidth = 250;
 constexpr int kMinMeterHeight = 96;
 constexpr int kMaxMeterHeight = 210;
 constexpr double kMeterWidthShare = 0.6;
-constexpr double kMeterHeightShare = 0.32;
+constexpr double kMeterHeightShare = 0.34;
+// From this width on the data log is a full-height column at the right, of this share of the
+// width within its bounds.
+constexpr int kWideLayoutWidth = 1180;
+constexpr double kLogColumnShare = 0.28;
+constexpr int kMaxLogColumnWidth = 460;
 
 // Keys of the menu commands; the tool-bar buttons that do the same tell them in their tips.
 struct CommandKey {
@@ -110,24 +115,19 @@ MainWindow::MainWindow(platform::MainControls& controls, io::ModalGate& gate, QW
 
     auto* panel = new QWidget;
     panel->setObjectName(Name("MAIN_PANEL"));
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(kSpacing, kSpacing, kSpacing, kSpacing);
-    layout->setSpacing(kSpacing);
-    auto* topRow = new QHBoxLayout;
-    topRow->setSpacing(kSpacing);
+    m_grid = new QGridLayout(panel);
+    m_grid->setContentsMargins(kSpacing, kSpacing, kSpacing, kSpacing);
+    m_grid->setSpacing(kSpacing);
     m_meterGroup = BuildMeterGroup();
     m_logGroup = BuildLogGroup();
-    topRow->addWidget(m_meterGroup, 0);
-    topRow->addWidget(m_logGroup, 1);
-    layout->addLayout(topRow, 0);
     m_graphGroup = BuildGraphGroup();
-    layout->addWidget(m_graphGroup, 1);
+    Arrange(false);
 
     auto* debugText = new QPlainTextEdit(panel);
     debugText->setObjectName(Name("DEBUG_TEXT1"));
     debugText->setReadOnly(true);
     debugText->hide();
-    layout->addWidget(debugText);
+    m_grid->addWidget(debugText, 2, 0, 1, 2);
     auto* printPicture = new QLabel(panel);
     printPicture->setObjectName(Name("picPRINT"));
     printPicture->hide();
@@ -286,16 +286,17 @@ QWidget* MainWindow::BuildMeterGroup()
 {
     auto* group = new QGroupBox(QStringLiteral("Meter"));
     group->setObjectName(Name("METER_GROUP"));
-    group->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* layout = new QHBoxLayout(group);
     layout->setContentsMargins(kSpacing, kSpacing, kSpacing, kSpacing);
     layout->setSpacing(kSpacing);
+    layout->addStretch(1); // a group wider than the meter keeps it in the middle
     // Both keep the size FitMeter gives them; the dial keeps its place while hidden, so nothing
     // moves when a reading has no needle.
     m_lcd = new LcdPanel(group);
     layout->addWidget(m_lcd, 0, Qt::AlignVCenter);
     m_knob = new DialKnob(group);
     layout->addWidget(m_knob, 0, Qt::AlignVCenter);
+    layout->addStretch(1);
     m_lcd->setFixedSize(static_cast<int>(std::lround(kMinMeterHeight * LcdPanel::kAspect)), kMinMeterHeight);
     m_knob->setFixedSize(kMinMeterHeight, kMinMeterHeight);
     return group;
@@ -449,6 +450,24 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
+void MainWindow::Arrange(bool wide)
+{
+    // Narrow: the meter and the data log side by side above the graph. Wide: the data log is a
+    // column of its own at the right, as tall as the window, so that it shows many lines.
+    m_wide = wide;
+    for (QWidget* group : { m_meterGroup, m_logGroup, m_graphGroup })
+        m_grid->removeWidget(group);
+    m_grid->addWidget(m_meterGroup, 0, 0);
+    m_grid->addWidget(m_graphGroup, 1, 0, 1, wide ? 1 : 2);
+    m_grid->addWidget(m_logGroup, 0, 1, wide ? 2 : 1, 1);
+    m_grid->setColumnStretch(0, wide ? 1 : 0);
+    m_grid->setColumnStretch(1, wide ? 0 : 1);
+    m_grid->setRowStretch(0, 0);
+    m_grid->setRowStretch(1, 1);
+    m_logGroup->setMinimumSize(0, 0);
+    m_logGroup->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
 void MainWindow::FitMeter()
 {
     // What the meter group and the panel add around the LCD and the dial, measured rather than
@@ -458,11 +477,21 @@ void MainWindow::FitMeter()
     const QMargins margins = m_scroll->widget()->layout()->contentsMargins();
     const QSize logMinimum = m_logGroup->minimumSizeHint();
 
-    // The meter takes its share of the width, leaving the data log its minimum, and its share of
-    // the height, leaving the graph its minimum.
+    // Wide windows give the data log a column of its own; then the meter shares the width with
+    // the graph only.
     const QSize room = m_scroll->size();
-    const double meterWidth = std::min(room.width() * kMeterWidthShare,
-        static_cast<double>(room.width() - margins.left() - margins.right() - kSpacing - logMinimum.width()));
+    const bool wide = room.width() >= kWideLayoutWidth;
+    if (wide != m_wide)
+        Arrange(wide);
+    const int logWidth = wide
+        ? std::clamp(static_cast<int>(room.width() * kLogColumnShare), logMinimum.width(), kMaxLogColumnWidth)
+        : logMinimum.width();
+
+    // The meter takes its share of the width, leaving the data log its width, and its share of
+    // the height, leaving the graph its minimum.
+    const int freeWidth = room.width() - margins.left() - margins.right() - kSpacing - logWidth;
+    const double meterWidth
+        = wide ? freeWidth : std::min(room.width() * kMeterWidthShare, static_cast<double>(freeWidth));
     const double byWidth = (meterWidth - meterChrome.width() - kSpacing) / (LcdPanel::kAspect + 1.0);
     const double rowHeight = std::min(room.height() * kMeterHeightShare,
         static_cast<double>(room.height() - margins.top() - margins.bottom() - kSpacing
@@ -471,15 +500,19 @@ void MainWindow::FitMeter()
     const int height
         = std::clamp(static_cast<int>(std::min(byWidth, byHeight)), kMinMeterHeight, kMaxMeterHeight);
     const QSize lcd(static_cast<int>(std::lround(height * LcdPanel::kAspect)), height);
-    // The row is as tall as the meter; the data log beside it fits itself in, and the graph
-    // takes everything below.
-    const int row = std::max(height + meterChrome.height(), logMinimum.height());
-    if (m_lcd->size() == lcd && m_meterGroup->height() == row && m_logGroup->maximumHeight() == row)
+    // The row is as tall as the meter; a data log beside it fits itself in, and the graph takes
+    // everything below.
+    const int row = std::max(height + meterChrome.height(), wide ? 0 : logMinimum.height());
+    if (m_lcd->size() == lcd && m_meterGroup->maximumHeight() == row
+        && (wide ? m_logGroup->maximumWidth() == logWidth : m_logGroup->maximumHeight() == row))
         return;
     m_lcd->setFixedSize(lcd);
     m_knob->setFixedSize(height, height);
     m_meterGroup->setFixedHeight(row);
-    m_logGroup->setFixedHeight(row);
+    if (wide)
+        m_logGroup->setFixedWidth(logWidth);
+    else
+        m_logGroup->setFixedHeight(row);
 }
 
 void MainWindow::CloseWithoutAsking()

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+class QGridLayout;
 class QMenu;
 class QScrollArea;
 class QToolBar;
@@ -32,8 +33,9 @@ class QwtGraphAdapter;
 // The main window MAIN_FRM: menu bar, tool bar, status bar, and a scrollable panel with the
 // meter (LCD and dial), the data log with its memory bar, and the graph with its lists and
 // cursor readouts. The meter keeps its proportions: its height follows the window's size, the
-// data log takes the rest of the row and the graph the rest of the height; when the window is
-// smaller than the panel's minimum, HScroll and VScroll appear. It owns the graph, the dial and
+// data log takes the rest of the row (or, in a wide window, a full-height column at the right)
+// and the graph the rest of the height; when the window is smaller than the panel's minimum,
+// HScroll and VScroll appear. It owns the graph, the dial and
 // the four form timers, binds every control model to the widget, menu or action carrying the
 // model's name, and gives every command a key. It holds no logic: user actions go to the
 // models, and closing the window asks the close handler (the form's unload) whether it may close.
@@ -76,8 +78,9 @@ private:
     QWidget* BuildLogGroup();
     QWidget* BuildGraphGroup();
     void BindControls();
-    // Sizes the LCD and the dial for the room the window gives the panel.
+    // Sizes the LCD and the dial, and picks the arrangement, for the room the window gives.
     void FitMeter();
+    void Arrange(bool wide);
 
     QMenu* AddMenu(QWidget* parent, const char* name);
     QAction* AddAction(QMenu* menu, const char* name, bool checkable = false);
@@ -90,6 +93,8 @@ private:
     QWidget* m_logGroup = nullptr;
     QWidget* m_graphGroup = nullptr;
     QScrollArea* m_scroll = nullptr;
+    QGridLayout* m_grid = nullptr;
+    bool m_wide = false;
     MeterStatus* m_status = nullptr;
     io::QtTimer* m_unlinkTimer;
     io::QtTimer* m_sampleTimer;
