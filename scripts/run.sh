@@ -35,5 +35,5 @@ if [ -z "$device" ]; then
   exit 1
 fi
 export VENTRIX_COM1="$device"
-echo "run.sh: no serial adapter found; a virtual meter on $device is COM 1 (press Start to see readings)" >&2
+echo "run.sh: no serial adapter found; a virtual meter on $device is COM 1 (press Play to see readings)" >&2
 build/ventrix "$@"

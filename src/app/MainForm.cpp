@@ -189,8 +189,7 @@ void MainForm::Quit()
 
 void MainForm::ShowAbout()
 {
-    m_services.dialogs.MessageBox("Ventrix 1.0\nCompanion program for the X9-410 digital multimeter.",
-        platform::MessageButtons::Ok, platform::MessageIcon::Information, kTitle);
+    m_services.dialogs.ShowAbout();
 }
 
 void MainForm::WireControls()
@@ -202,7 +201,11 @@ void MainForm::WireControls()
     c.MENU_START.SetOnClick([this] { m_link.StartAcquisition(); });
     c.CMD_STOP.SetOnClick([this] { m_link.StopAcquisition(); });
     c.MENU_STOP.SetOnClick([this] { m_link.StopAcquisition(); });
-    m_services.MSComm1.SetOnComm([this] { m_link.OnComm(); });
+    m_services.MSComm1.SetOnComm([this] {
+        m_link.OnComm();
+        if (m_link.AcceptedOffset() >= 0 && m_onFrameAccepted)
+            m_onFrameAccepted();
+    });
     timers.UNLINK_TIMER.SetOnTick([this] { m_link.UnlinkTimerTick(); });
     timers.ANALOG_TIMER.SetOnTick([this] { m_gauge.AnimateGauge(); });
 

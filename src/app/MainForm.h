@@ -15,6 +15,8 @@
 #include "platform/Services.h"
 #include "state/AppState.h"
 
+#include <functional>
+
 namespace ventrix::app {
 
 // The main window's handlers: owns the subsystems, wires every control, timer and the receive
@@ -32,6 +34,9 @@ public:
     void Form_Unload(int& cancel);
     // Exit and CMD_EXIT: the same question, the cancel flag starting at 1.
     void Quit();
+    // Called after every receive event that accepted a frame (the window shows the reading as
+    // live for a while after it).
+    void SetOnFrameAccepted(std::function<void()> handler) { m_onFrameAccepted = std::move(handler); }
 
     link::SerialLink& Link() { return m_link; }
     display::VirtualLcd& Lcd() { return m_lcd; }
@@ -67,6 +72,7 @@ private:
     link::FrameSimulator m_simulator;
     Settings m_settings;
     bool m_ended = false; // the program has been ended: a later close request asks nothing
+    std::function<void()> m_onFrameAccepted;
 };
 
 } // namespace ventrix::app

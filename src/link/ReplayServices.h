@@ -52,6 +52,7 @@ private:
         std::optional<std::string> ShowOpen(const platform::FileDialogRequest&) override { return {}; }
         std::optional<std::string> ShowSave(const platform::FileDialogRequest&) override { return {}; }
         std::optional<platform::PrintDialogResult> ShowPrint(int) override { return {}; }
+        void ShowAbout() override { }
     };
 
     class NullGraph : public platform::GraphControl {

@@ -25,7 +25,9 @@ struct PrintDialogResult {
 };
 
 // Modal dialogs. A box holds up every other event until it is answered. File dialogs return the
-// chosen path, or nothing when cancelled; the print dialog returns nothing when cancelled.
+// chosen path, or nothing when cancelled; the print dialog returns nothing when cancelled. The
+// about box ABOUT_FRM only informs: it keeps the user's hands off the window until closed, but
+// holds up no other event, and ShowAbout returns at once.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
@@ -35,6 +37,7 @@ public:
     virtual std::optional<std::string> ShowOpen(const FileDialogRequest& request) = 0;
     virtual std::optional<std::string> ShowSave(const FileDialogRequest& request) = 0;
     virtual std::optional<PrintDialogResult> ShowPrint(int flags) = 0;
+    virtual void ShowAbout() = 0;
 };
 
 } // namespace ventrix::platform

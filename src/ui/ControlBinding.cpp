@@ -51,11 +51,22 @@ void SetWidgetVisible(QWidget* widget, bool visible)
     widget->setVisible(visible);
 }
 
+const char* const kKeyHint = "keyHint";
+
+// The model's tip, followed by the key that does the same, e.g. "Start acquisition (F5)".
+QString TipWithKey(const std::string& tip, const QWidget* widget)
+{
+    const QString key = widget->property(kKeyHint).toString();
+    if (tip.empty() || key.isEmpty())
+        return Text(tip);
+    return QStringLiteral("%1 (%2)").arg(Text(tip), key);
+}
+
 void CopyCommon(const Control& control, QWidget* widget)
 {
     SetWidgetVisible(widget, control.Visible());
     widget->setEnabled(control.Enabled());
-    widget->setToolTip(Text(control.ToolTip()));
+    widget->setToolTip(TipWithKey(control.ToolTip(), widget));
 }
 
 // Runs the copy now and after every change of the model, for as long as the target lives.
@@ -202,6 +213,17 @@ bool BindWindow(Control& control, QMainWindow* window)
     return true;
 }
 } // namespace
+
+void ControlBinding::SetKeyHint(QWidget* widget, const QString& key)
+{
+    const QString tip = widget->toolTip();
+    const QString oldKey = widget->property(kKeyHint).toString();
+    const QString suffix = QStringLiteral(" (%1)").arg(oldKey);
+    const QString plain
+        = !oldKey.isEmpty() && tip.endsWith(suffix) ? tip.left(tip.size() - suffix.size()) : tip;
+    widget->setProperty(kKeyHint, key);
+    widget->setToolTip(TipWithKey(plain.toStdString(), widget));
+}
 
 bool ControlBinding::Bind(Control& control, QObject* target)
 {

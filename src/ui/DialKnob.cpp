@@ -32,6 +32,7 @@ const QColor kScaleInk(226, 230, 236);
 const QColor kNormalArc(150, 200, 230);
 const QColor kOverloadArc(222, 58, 48);
 const QColor kNeedleRed(235, 40, 32);
+constexpr double kStaleOpacity = 0.3;
 
 bool IsKnownPointer(const std::string& name)
 {
@@ -145,9 +146,28 @@ void DialKnob::SetPointerValue(const std::string& pointer, double value)
     if (pointer == kNeedle) {
         GlideTo(value);
     } else if (pointer == kScaleMax || pointer == kScaleMin) {
+        ShowScale();
         invalidateCache();
         update();
     }
+}
+
+void DialKnob::ShowScale()
+{
+    if (m_scaleShown)
+        return;
+    m_scaleShown = true;
+    invalidateCache();
+    update();
+}
+
+void DialKnob::SetStale(bool stale)
+{
+    if (stale == m_stale)
+        return;
+    m_stale = stale;
+    invalidateCache();
+    update();
 }
 
 double DialKnob::AxisMinimum() const
@@ -162,12 +182,14 @@ double DialKnob::AxisMaximum() const
 void DialKnob::SetAxisMinimum(double value)
 {
     m_axisMinimum = value;
+    ShowScale();
     ApplyRange();
 }
 
 void DialKnob::SetAxisMaximum(double value)
 {
     m_axisMaximum = value;
+    ShowScale();
     ApplyRange();
 }
 
@@ -222,8 +244,15 @@ void DialKnob::drawContents(QPainter* painter) const
 void DialKnob::drawNeedle(QPainter* painter, const QPointF& center, double radius, double direction,
     QPalette::ColorGroup group) const
 {
-    // The needle stops short of the ticks so that it never hides the scale it points at.
-    QwtDial::drawNeedle(painter, center, radius * 0.84, direction, group);
+    // The needle stops short of the ticks so that it never hides the scale it points at. Before
+    // the first reading there is nothing to point at: only the hub is drawn.
+    if (m_scaleShown) {
+        painter->save();
+        if (m_stale)
+            painter->setOpacity(kStaleOpacity);
+        QwtDial::drawNeedle(painter, center, radius * 0.84, direction, group);
+        painter->restore();
+    }
 
     const double hub = std::max(4.0, radius * 0.075);
     QRadialGradient cap(center - QPointF(hub * 0.3, hub * 0.3), hub * 1.4);
@@ -248,6 +277,8 @@ QRect DialKnob::scaleInnerRect() const
 
 void DialKnob::drawScale(QPainter* painter, const QPointF& center, double radius) const
 {
+    if (!m_scaleShown)
+        return;
     const QwtScaleMap map = scaleDraw()->scaleMap();
     const double low = std::min(m_axisMinimum, m_axisMaximum);
     const double high = std::max(m_axisMinimum, m_axisMaximum);
@@ -257,6 +288,8 @@ void DialKnob::drawScale(QPainter* painter, const QPointF& center, double radius
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    if (m_stale)
+        painter->setOpacity(kStaleOpacity + 0.1);
 
     // Along the rim: the normal scale as a light band, the overload zones beyond it in red.
     painter->setPen(Qt::NoPen);

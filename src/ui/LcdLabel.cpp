@@ -19,6 +19,7 @@ const QColor kInk(24, 33, 26);
 constexpr int kGhostAlpha = 16;
 constexpr int kShadowAlpha = 38;
 constexpr double kDisabledOpacity = 0.35;
+constexpr double kFadedOpacity = 0.3;
 
 // The family name of the segment font, empty when it could not be loaded.
 QString& DigitFamily()
@@ -111,6 +112,42 @@ LcdLabel::LcdLabel(Role role, const char* objectName, QWidget* parent)
     setAutoFillBackground(false);
 }
 
+void LcdLabel::SetLegendPixels(double pixels)
+{
+    if (pixels == m_legendPixels)
+        return;
+    m_legendPixels = pixels;
+    update();
+}
+
+void LcdLabel::SetFaded(bool faded)
+{
+    if (faded == m_faded)
+        return;
+    m_faded = faded;
+    update();
+}
+
+LcdLabel::UnitFace LcdLabel::UnitFaceOf(const QString& text)
+{
+    UnitFace face;
+    QString unit = text.trimmed();
+    if (unit.endsWith(QStringLiteral(" AC"))) {
+        face.ac = true;
+        unit.chop(3);
+    }
+    unit.replace(QStringLiteral("OHM"), QString(QChar(0x03A9)));
+    // A prefix letter stands before a unit; "CONT" and "hFE" have none.
+    if (unit.size() > 1 && unit != QStringLiteral("CONT")) {
+        if (unit.front() == QLatin1Char('u'))
+            unit.front() = QChar(0x00B5);
+        else if (unit.front() == QLatin1Char('K'))
+            unit.front() = QLatin1Char('k');
+    }
+    face.unit = unit;
+    return face;
+}
+
 bool LcdLabel::LoadSegmentFonts()
 {
     static const bool loaded = [] {
@@ -162,6 +199,8 @@ void LcdLabel::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::TextAntialiasing);
     if (!isEnabled())
         painter.setOpacity(kDisabledOpacity);
+    else if (m_faded)
+        painter.setOpacity(kFadedOpacity);
 
     const QRectF area = rect();
     switch (m_role) {
@@ -172,18 +211,18 @@ void LcdLabel::paintEvent(QPaintEvent*)
         PaintMinus(painter, area, kInk);
         break;
     case Role::Annunciator:
-        PaintWord(painter, area, kInk, Qt::AlignCenter);
+        PaintWord(painter, area, text(), m_legendPixels, kInk, Qt::AlignCenter);
         break;
     case Role::Battery:
         if (!text().isEmpty()) {
-            const double symbolWidth = area.height() * 1.25;
+            const double symbolWidth = m_legendPixels * 1.6;
             PaintBatterySymbol(painter, QRectF(area.left(), area.top(), symbolWidth, area.height()), kInk);
-            PaintWord(painter, area.adjusted(symbolWidth + area.height() * 0.25, 0, 0, 0), kInk,
-                Qt::AlignLeft | Qt::AlignVCenter);
+            PaintWord(painter, area.adjusted(symbolWidth + m_legendPixels * 0.3, 0, 0, 0), text(),
+                m_legendPixels, kInk, Qt::AlignLeft | Qt::AlignVCenter);
         }
         break;
     case Role::Unit:
-        PaintWord(painter, area, kInk, Qt::AlignRight | Qt::AlignVCenter);
+        PaintUnit(painter, area, kInk);
         break;
     }
 }
@@ -251,26 +290,46 @@ void LcdLabel::PaintMinus(QPainter& painter, const QRectF& area, const QColor& i
     painter.drawPath(bar);
 }
 
-void LcdLabel::PaintWord(QPainter& painter, QRectF area, const QColor& ink, Qt::Alignment alignment) const
+void LcdLabel::PaintWord(QPainter& painter, QRectF area, const QString& word, double pixels,
+    const QColor& ink, Qt::Alignment alignment) const
 {
-    const QString word = text();
     if (word.isEmpty())
         return;
-    double pixelSize = area.height() * 0.82;
-    const QFontMetricsF probe(WordFont(pixelSize));
-    const double width = probe.horizontalAdvance(word);
-    if (width > area.width())
-        pixelSize *= area.width() / width;
-    const QFont font = WordFont(pixelSize);
+    // One size for every word of a kind; only a word that could not fit at all is narrowed.
+    QFont font = WordFont(pixels);
+    double textWidth = QFontMetricsF(font).horizontalAdvance(word);
+    if (textWidth > area.width()) {
+        font.setPixelSize(std::max(1, static_cast<int>(pixels * area.width() / textWidth)));
+        textWidth = QFontMetricsF(font).horizontalAdvance(word);
+    }
     const QFontMetricsF metrics(font);
-    const double textWidth = metrics.horizontalAdvance(word);
     double x = area.left();
     if (alignment & Qt::AlignRight)
         x = area.right() - textWidth;
     else if (alignment & Qt::AlignHCenter)
         x = area.center().x() - textWidth / 2;
-    const double baseline = area.center().y() + (metrics.capHeight()) / 2.0;
-    DrawInkText(painter, QPointF(x, baseline), word, font, ink, std::max(0.8, pixelSize * 0.05));
+    double baseline = area.center().y() + metrics.capHeight() / 2.0;
+    if (alignment & Qt::AlignBottom)
+        baseline = area.bottom();
+    else if (alignment & Qt::AlignTop)
+        baseline = area.top() + metrics.capHeight();
+    DrawInkText(painter, QPointF(x, baseline), word, font, ink, std::max(0.8, pixels * 0.05));
+}
+
+void LcdLabel::PaintUnit(QPainter& painter, const QRectF& area, const QColor& ink) const
+{
+    // The unit sits on the digits' baseline, right-aligned; AC stands above it in the
+    // annunciators' size.
+    const UnitFace face = UnitFaceOf(text());
+    const double baseline = area.top() + area.height() * 0.92;
+    const QRectF unitArea(area.left(), area.top(), area.width(), baseline - area.top());
+    PaintWord(painter, unitArea, face.unit, m_legendPixels, ink, Qt::AlignRight | Qt::AlignBottom);
+    if (face.ac) {
+        const double gap = m_legendPixels * 0.35;
+        const double acBottom = baseline - QFontMetricsF(WordFont(m_legendPixels)).capHeight() - gap;
+        PaintWord(painter, QRectF(area.left(), area.top(), area.width(), acBottom - area.top()),
+            QStringLiteral("AC"), m_legendPixels * 0.56, ink, Qt::AlignRight | Qt::AlignBottom);
+    }
 }
 
 void LcdLabel::PaintBatterySymbol(QPainter& painter, const QRectF& area, const QColor& ink) const

@@ -6,8 +6,10 @@ namespace ventrix::ui {
 
 // One element of the virtual LCD glass: a QLabel that draws its own text() as dark liquid
 // crystal on the panel's glass, in the manner of its role (seven-segment digits, the minus bar,
-// a small annunciator word, the unit text). It reacts to setText, setVisible and setEnabled
-// like any label and keeps no state besides its role; it decides nothing about what is shown.
+// a small annunciator word, the unit text). Words are drawn at the legend size the panel gives
+// (one size for every word of a kind, whatever its length), and the unit as a meter's glass
+// prints it (kΩ, µA, with AC as a small legend above). It reacts to setText, setVisible and
+// setEnabled like any label, draws faded while told so, and decides nothing about what is shown.
 class LcdLabel : public QLabel {
 public:
     enum class Role {
@@ -21,6 +23,19 @@ public:
     LcdLabel(Role role, const char* objectName, QWidget* parent);
 
     Role LabelRole() const { return m_role; }
+
+    // The pixel size of the words this label draws (annunciators and the unit).
+    void SetLegendPixels(double pixels);
+    // Faded ink: the reading is not live.
+    void SetFaded(bool faded);
+
+    // What the unit label draws for its text: the unit with the prefix and unit symbols of the
+    // glass (u -> µ, K -> k, OHM -> Ω), and whether a small AC legend goes with it.
+    struct UnitFace {
+        QString unit;
+        bool ac = false;
+    };
+    static UnitFace UnitFaceOf(const QString& text);
 
     // What the digits label actually draws for its text: letters the seven-segment face cannot
     // show are mapped to the segment shapes the meter uses, and blanks keep a digit's width.
@@ -36,10 +51,14 @@ protected:
 private:
     void PaintDigits(QPainter& painter, const QRectF& area, const QColor& ink) const;
     void PaintMinus(QPainter& painter, const QRectF& area, const QColor& ink) const;
-    void PaintWord(QPainter& painter, QRectF area, const QColor& ink, Qt::Alignment alignment) const;
+    void PaintWord(QPainter& painter, QRectF area, const QString& word, double pixels, const QColor& ink,
+        Qt::Alignment alignment) const;
+    void PaintUnit(QPainter& painter, const QRectF& area, const QColor& ink) const;
     void PaintBatterySymbol(QPainter& painter, const QRectF& area, const QColor& ink) const;
 
     Role m_role;
+    double m_legendPixels = 12.0;
+    bool m_faded = false;
 };
 
 } // namespace ventrix::ui

@@ -24,15 +24,19 @@ struct Placement {
     QRectF rect; // on the 420 x 150 layout grid
 };
 
+// Legend heights on the grid: one for every annunciator word, one for the unit.
+constexpr double kAnnunciatorPixels = 14.0;
+constexpr double kUnitPixels = 25.0;
+
 const std::array<Placement, 8> kPlacements { {
-    { "AUTO_LBL", LcdLabel::Role::Annunciator, { 20, 14, 52, 19 } },
-    { "HOLD_LBL", LcdLabel::Role::Annunciator, { 78, 14, 52, 19 } },
-    { "BATTERY_LBL", LcdLabel::Role::Battery, { 140, 14, 66, 19 } },
-    { "FUNCTION_LBL", LcdLabel::Role::Annunciator, { 286, 14, 64, 19 } },
-    { "MIN_LBL", LcdLabel::Role::Annunciator, { 356, 14, 46, 19 } },
+    { "AUTO_LBL", LcdLabel::Role::Annunciator, { 20, 13, 50, 20 } },
+    { "HOLD_LBL", LcdLabel::Role::Annunciator, { 74, 13, 50, 20 } },
+    { "BATTERY_LBL", LcdLabel::Role::Battery, { 134, 13, 70, 20 } },
+    { "FUNCTION_LBL", LcdLabel::Role::Annunciator, { 282, 13, 64, 20 } },
+    { "MIN_LBL", LcdLabel::Role::Annunciator, { 350, 13, 50, 20 } },
     { "NEG_LBL", LcdLabel::Role::Minus, { 16, 38, 38, 98 } },
     { "DIGIT_LBL", LcdLabel::Role::Digits, { 56, 38, 272, 98 } },
-    { "MODE_LBL", LcdLabel::Role::Unit, { 332, 98, 74, 32 } },
+    { "MODE_LBL", LcdLabel::Role::Unit, { 328, 38, 82, 96 } },
 } };
 
 } // namespace
@@ -60,6 +64,28 @@ QSize LcdPanel::minimumSizeHint() const
     return QSize(210, 75);
 }
 
+QRectF LcdPanel::LcdRect() const
+{
+    // The largest rectangle of the LCD's proportions that fits, centred.
+    double w = width();
+    double h = w / kAspect;
+    if (h > height()) {
+        h = height();
+        w = h * kAspect;
+    }
+    return QRectF((width() - w) / 2.0, (height() - h) / 2.0, w, h);
+}
+
+void LcdPanel::SetStale(bool stale)
+{
+    if (stale == m_stale)
+        return;
+    m_stale = stale;
+    for (LcdLabel* label : findChildren<LcdLabel*>(QString(), Qt::FindDirectChildrenOnly))
+        label->SetFaded(stale);
+    update();
+}
+
 void LcdPanel::resizeEvent(QResizeEvent* event)
 {
     QFrame::resizeEvent(event);
@@ -68,14 +94,18 @@ void LcdPanel::resizeEvent(QResizeEvent* event)
 
 void LcdPanel::PlaceLabels()
 {
-    const double sx = width() / kGridWidth;
-    const double sy = height() / kGridHeight;
+    const QRectF lcd = LcdRect();
+    const double scale = lcd.width() / kGridWidth;
     for (const Placement& placement : kPlacements) {
-        auto* label = findChild<QLabel*>(QString::fromLatin1(placement.name));
+        auto* label = findChild<LcdLabel*>(QString::fromLatin1(placement.name));
         if (label == nullptr)
             continue;
         const QRectF r = placement.rect;
-        label->setGeometry(QRectF(r.x() * sx, r.y() * sy, r.width() * sx, r.height() * sy).toRect());
+        label->setGeometry(
+            QRectF(lcd.x() + r.x() * scale, lcd.y() + r.y() * scale, r.width() * scale, r.height() * scale)
+                .toRect());
+        label->SetLegendPixels(
+            (placement.role == LcdLabel::Role::Unit ? kUnitPixels : kAnnunciatorPixels) * scale);
     }
 }
 
@@ -83,8 +113,8 @@ void LcdPanel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF outer = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    const double scale = std::min(width() / kGridWidth, height() / kGridHeight);
+    const QRectF outer = LcdRect().adjusted(0.5, 0.5, -0.5, -0.5);
+    const double scale = outer.width() / kGridWidth;
 
     // Bezel: dark moulded plastic with a faint highlight along its top edge.
     QLinearGradient bezel(outer.topLeft(), outer.bottomLeft());
@@ -98,10 +128,17 @@ void LcdPanel::paintEvent(QPaintEvent*)
     // Glass: greenish grey, a little lighter at the top where the light falls on it.
     const double inset = kBezel * scale;
     const QRectF glass = outer.adjusted(inset, inset, -inset, -inset);
+    // Unlit (stale reading): a greyer, darker glass, as a meter's display looks without its light.
     QLinearGradient glassFill(glass.topLeft(), glass.bottomLeft());
-    glassFill.setColorAt(0.0, QColor(200, 209, 186));
-    glassFill.setColorAt(0.55, QColor(184, 195, 170));
-    glassFill.setColorAt(1.0, QColor(168, 180, 155));
+    if (m_stale) {
+        glassFill.setColorAt(0.0, QColor(146, 152, 140));
+        glassFill.setColorAt(0.55, QColor(134, 140, 129));
+        glassFill.setColorAt(1.0, QColor(122, 128, 118));
+    } else {
+        glassFill.setColorAt(0.0, QColor(200, 209, 186));
+        glassFill.setColorAt(0.55, QColor(184, 195, 170));
+        glassFill.setColorAt(1.0, QColor(168, 180, 155));
+    }
     painter.setPen(QPen(QColor(18, 20, 18), std::max(1.0, 1.2 * scale)));
     painter.setBrush(glassFill);
     painter.drawRoundedRect(glass, 4 * scale, 4 * scale);

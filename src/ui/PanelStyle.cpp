@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
 
 namespace ventrix::ui {
@@ -43,19 +44,41 @@ QProgressBar {
 }
 QProgressBar::chunk { background: #2f7a4a; border-radius: 2px; }
 QToolBar { border: none; spacing: 4px; padding: 2px 6px; }
+QStatusBar { border-top: 1px solid #3a4046; }
+QStatusBar::item { border: none; }
+QLabel[role="status"] { padding: 1px 10px 1px 4px; color: #a9b0b8; }
+QLabel#STATUS_ACTIVITY[state="live"] { color: #7fd69a; font-weight: bold; }
+QLabel#STATUS_ACTIVITY[state="waiting"] { color: #e6b657; font-weight: bold; }
 QToolButton { padding: 3px 6px; }
 )";
+// Fusion, except that disabled text is not etched: on a dark palette the light offset copy makes
+// a disabled entry look bolder than an enabled one.
+class FlatDisabledStyle : public QProxyStyle {
+public:
+    FlatDisabledStyle()
+        : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+    {
+    }
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returnData) const override
+    {
+        if (hint == SH_EtchDisabledText)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
 } // namespace
 
 void PanelStyle::Apply(QApplication& application)
 {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(new FlatDisabledStyle);
 
     QPalette palette;
     const QColor window(0x2b, 0x2f, 0x33);
     const QColor base(0x1e, 0x21, 0x24);
     const QColor text(0xe0, 0xe3, 0xe6);
     const QColor muted(0x7a, 0x80, 0x86);
+    const QColor dimmed(0x5c, 0x62, 0x68); // disabled text: clearly behind the enabled text
     palette.setColor(QPalette::Window, window);
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Base, base);
@@ -71,8 +94,11 @@ void PanelStyle::Apply(QApplication& application)
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::PlaceholderText, muted);
     for (QPalette::ColorRole role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
-        palette.setColor(QPalette::Disabled, role, muted);
-    palette.setColor(QPalette::Disabled, QPalette::Button, QColor(0x30, 0x34, 0x38));
+        palette.setColor(QPalette::Disabled, role, dimmed);
+    // Disabled buttons and lists sink into the panel: no raised face, no light edge.
+    palette.setColor(QPalette::Disabled, QPalette::Button, window);
+    palette.setColor(QPalette::Disabled, QPalette::Light, window);
+    palette.setColor(QPalette::Disabled, QPalette::Base, window);
     application.setPalette(palette);
     application.setStyleSheet(QString::fromLatin1(kStyleSheet));
 }

@@ -1,5 +1,7 @@
 #include "ui/QtDialogs.h"
 
+#include "ui/AboutBox.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -64,6 +66,21 @@ MessageResult QtDialogs::MessageBox(
     if (buttons == MessageButtons::Ok)
         return MessageResult::Ok;
     return answer == QMessageBox::Yes ? MessageResult::Yes : MessageResult::No;
+}
+
+void QtDialogs::ShowAbout()
+{
+    // Application-modal but shown without a nested event loop: the meter, the timers and the
+    // log go on while the box is read.
+    if (m_about.isNull()) {
+        auto* box = new AboutBox(m_parent);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setWindowModality(Qt::ApplicationModal);
+        m_about = box;
+    }
+    m_about->show();
+    m_about->raise();
+    m_about->activateWindow();
 }
 
 std::optional<std::string> QtDialogs::ShowOpen(const platform::FileDialogRequest& request)

@@ -11,7 +11,8 @@ namespace ventrix::ui {
 
 // Message boxes, file dialogs and the print dialog on QMessageBox, QFileDialog and QPrintDialog,
 // owned by the main window. Every box runs under the modal gate, so timer ticks and receive
-// events wait until it is answered. Only adapts arguments and results; decides nothing.
+// events wait until it is answered; the about box alone is left outside the gate (it asks
+// nothing). Only adapts arguments and results; decides nothing.
 class QtDialogs : public platform::Dialogs {
 public:
     explicit QtDialogs(io::ModalGate& gate, QWidget* parent = nullptr);
@@ -23,6 +24,8 @@ public:
     std::optional<std::string> ShowOpen(const platform::FileDialogRequest& request) override;
     std::optional<std::string> ShowSave(const platform::FileDialogRequest& request) override;
     std::optional<platform::PrintDialogResult> ShowPrint(int flags) override;
+    // Opens ABOUT_FRM, or raises it when it is already open.
+    void ShowAbout() override;
 
     // "Graph Files|*.gph|All|*.*" -> "Graph Files (*.gph);;All (*.*)". Several patterns of one
     // entry ("*.txt;*.log") become space separated; an empty filter gives an empty string.
@@ -36,6 +39,7 @@ private:
 
     io::ModalGate& m_gate;
     QPointer<QWidget> m_parent;
+    QPointer<QWidget> m_about;
 };
 
 } // namespace ventrix::ui

@@ -77,6 +77,8 @@ int main(int argc, char** argv)
         spreadsheet, printer, paths, shell };
     app::MainForm form(state, controls, services);
     window.SetCloseHandler([&form](int& cancel) { form.Form_Unload(cancel); });
+    window.WatchState(state);
+    form.SetOnFrameAccepted([&window] { window.FrameArrived(); });
     shell.SetOnEnd([&window] { window.CloseWithoutAsking(); });
     ui::HelpWindow help(HelpDirectory());
     shell.SetOnHelp([&help](platform::HelpView view) { help.Show(view); });

@@ -26,6 +26,7 @@ public:
     std::optional<std::string> ShowOpen(const platform::FileDialogRequest& request) override;
     std::optional<std::string> ShowSave(const platform::FileDialogRequest& request) override;
     std::optional<platform::PrintDialogResult> ShowPrint(int flags) override;
+    void ShowAbout() override { ++aboutCount; }
 
     std::deque<platform::MessageResult> answers;
     std::deque<std::optional<std::string>> fileAnswers;
@@ -35,6 +36,7 @@ public:
     std::vector<platform::FileDialogRequest> openRequests;
     std::vector<platform::FileDialogRequest> saveRequests;
     std::vector<int> printRequests;
+    int aboutCount = 0;
 };
 
 } // namespace ventrix::fakes

@@ -8,6 +8,8 @@ namespace ventrix::cli {
 
 namespace {
 
+constexpr int kTourPasses = 4;
+
 // A count of 0 to 9999 as four positions with the point before position pointAt (1 to 3) or
 // without one (0); leading zeros before the point's position are shown, as the meter does.
 std::string Digits(int count, int pointAt)
@@ -38,11 +40,10 @@ MeterDisplay Show(std::uint8_t mode, std::string text, char prefix = 0)
     return d;
 }
 
-} // namespace
-
-std::vector<MeterDisplay> DemoScenario()
+// One walk through every function, annunciator and word; pass 0, 1, 2 ... vary the opening wave
+// so that the passes do not look alike. Relative mode is left out.
+void AddTour(std::vector<MeterDisplay>& frames, int pass)
 {
-    std::vector<MeterDisplay> frames;
     auto add = [&frames](MeterDisplay d, int times = 1) {
         for (int i = 0; i < times; ++i)
             frames.push_back(d);
@@ -50,7 +51,8 @@ std::vector<MeterDisplay> DemoScenario()
 
     // Volts DC: a slow wave around 1.5 V, then below zero, then millivolts with HOLD.
     for (int i = 0; i < 24; ++i) {
-        const int count = 1500 + static_cast<int>(std::lround(900 * std::sin(i * std::numbers::pi / 12)));
+        const double phase = (i + 4 * pass) * std::numbers::pi / 12;
+        const int count = 1500 + static_cast<int>(std::lround((900 - 150 * pass) * std::sin(phase)));
         add(Show(0, Digits(count, 1)));
     }
     for (int count : { 412, 388, 351 }) {
@@ -121,7 +123,7 @@ std::vector<MeterDisplay> DemoScenario()
         d.temperatureUnit = 'F';
         add(d);
     }
-    // Low battery, the recorded minimum and maximum, then relative mode.
+    // Low battery, the recorded minimum and maximum.
     {
         MeterDisplay d = Show(0, Digits(1500, 1));
         d.battery = true;
@@ -136,17 +138,30 @@ std::vector<MeterDisplay> DemoScenario()
         add(d, 3);
         d.min = true;
         add(d, 2);
-        d.min = d.max = false;
-        d.rel = true;
-        d.autoRange = false;
-        d.text = Digits(2, 1);
-        add(d, 2);
-        d.text = Digits(15, 1);
-        d.negative = true;
-        add(d, 2);
     }
-    // Back to plain volts before the loop starts again.
+    // Back to plain volts.
     add(Show(0, Digits(1500, 1)), 3);
+}
+
+} // namespace
+
+std::vector<MeterDisplay> DemoScenario()
+{
+    std::vector<MeterDisplay> frames;
+    for (int pass = 0; pass < kTourPasses; ++pass)
+        AddTour(frames, pass);
+    // One short stretch of relative mode at the very end of the loop: acquisition started on one
+    // of these two frames is refused, as the program must; a start at any other moment is not.
+    MeterDisplay rel = Show(0, Digits(2, 1));
+    rel.rel = true;
+    rel.autoRange = false;
+    frames.push_back(rel);
+    rel.text = Digits(15, 1);
+    rel.negative = true;
+    frames.push_back(rel);
+    // Plain volts again before the loop starts over.
+    for (int i = 0; i < 3; ++i)
+        frames.push_back(Show(0, Digits(1500, 1)));
     return frames;
 }
 

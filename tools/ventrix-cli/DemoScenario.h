@@ -6,11 +6,12 @@
 
 namespace ventrix::cli {
 
-// The virtual meter's demonstration: one display per frame, walking through every function
-// with its prefixes, decimal positions, words (" OF ", "OPEn", " HI ", " LO "), negative
-// values and the HOLD, AUTO, BAT, MIN, MAX and REL annunciators; played in a loop, about a
-// minute at the meter's pace. Starts and ends with plain volts so the loop never opens in
-// relative mode.
+// The virtual meter's demonstration: one display per frame, walking four times through every
+// function with its prefixes, decimal positions, words (" OF ", "OPEn", " HI ", " LO "),
+// negative values and the HOLD, AUTO, BAT, MIN and MAX annunciators, then two frames in relative
+// mode (REL); played in a loop, about three minutes at the meter's pace. A start of acquisition
+// lands on the relative frames, and is refused, about once in 225 starts. Starts and
+// ends with plain volts.
 std::vector<MeterDisplay> DemoScenario();
 
 } // namespace ventrix::cli
