@@ -31,6 +31,7 @@ MainForm::MainForm(state::AppState& state, platform::MainControls& controls, pla
     , m_appearance(controls, services.GRAPH_CWGraph)
     , m_settings(
           state, controls, services.GRAPH_CWGraph, services.paths, [this] { m_memory.UpdateMemoryGauge(); })
+    , m_files(state, controls, services)
 {
     WireControls();
 }
@@ -150,15 +151,11 @@ void MainForm::DisableUnfinishedCommands()
     platform::MainControls& c = m_controls;
     // Not wired yet either, and left alone here: SAMPLE_TIMER and DEBUG_TIMER have no tick
     // handler; CMD_PAGEUP and CMD_PAGEDOWN are disabled by start-up itself.
-    for (platform::Control* control : std::initializer_list<platform::Control*> { &c.MENU_OPEN_GRAPH,
-             &c.MENU_SAVE_GRAPH, &c.MENU_SAVE_GRAPG_AS, // graph file
-             &c.Save, &c.Save_As, &c.CMD_SAVE, // log text file
-             &c.Excel, &c.CMD_EXCEL, // spreadsheet export
-             &c.MENU_PRINT_GRAPH, &c.CMD_PRINT, // printing
-             &c.CLEAR_LOG, &c.CMD_RESET, // clearing the log
-             &c.AUTO_ZOOM, &c.CMD_ZOOM, // zoom all data
-             &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO, // graph modes and scales
-             &c.HELP_CONTENT, &c.HELP_INDEX }) // help
+    for (platform::Control* control :
+        std::initializer_list<platform::Control*> { &c.CLEAR_LOG, &c.CMD_RESET, // clearing the log
+            &c.AUTO_ZOOM, &c.CMD_ZOOM, // zoom all data
+            &c.GRAPH_MODE_COMBO, &c.AMPLITUDE_COMBO, &c.SAMPLE_COMBO, // graph modes and scales
+            &c.HELP_CONTENT, &c.HELP_INDEX }) // help
         control->SetEnabled(false);
 }
 
@@ -218,6 +215,17 @@ void MainForm::WireControls()
         c.POINT_ITEMS[i].SetOnClick([this, i] { m_appearance.SelectPointStyle(static_cast<int>(i)); });
     c.FILL.SetOnClick([this] { m_appearance.ToggleFill(); });
     c.Grid.SetOnClick([this] { m_appearance.ToggleGrid(); });
+
+    c.MENU_OPEN_GRAPH.SetOnClick([this] { m_files.Graph().OpenGraphFile(); });
+    c.MENU_SAVE_GRAPH.SetOnClick([this] { m_files.Graph().SaveGraphFile(); });
+    c.MENU_SAVE_GRAPG_AS.SetOnClick([this] { m_files.Graph().SaveGraphFileAs(); });
+    c.Save.SetOnClick([this] { m_files.LogText().SaveLogText(); });
+    c.CMD_SAVE.SetOnClick([this] { m_files.LogText().SaveLogText(); });
+    c.Save_As.SetOnClick([this] { m_files.LogText().SaveLogTextAs(); });
+    c.Excel.SetOnClick([this] { m_files.Export().ExportToSpreadsheet(); });
+    c.CMD_EXCEL.SetOnClick([this] { m_files.Export().ExportToSpreadsheet(); });
+    c.MENU_PRINT_GRAPH.SetOnClick([this] { m_files.Print().PrintGraph(); });
+    c.CMD_PRINT.SetOnClick([this] { m_files.Print().PrintGraph(); });
 
     c.Exit.SetOnClick([this] { Quit(); });
     c.CMD_EXIT.SetOnClick([this] { Quit(); });

@@ -3,6 +3,7 @@
 #include "app/Settings.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
+#include "files/FileCommands.h"
 #include "graph/PlotAppearance.h"
 #include "link/SerialLink.h"
 #include "log/MemoryGauge.h"
@@ -34,6 +35,7 @@ public:
     Settings& SettingsFile() { return m_settings; }
     graph::PlotAppearance& Appearance() { return m_appearance; }
     log::MemoryGauge& Memory() { return m_memory; }
+    files::FileCommands& Files() { return m_files; }
 
 private:
     void WireControls();
@@ -51,6 +53,7 @@ private:
     log::MemoryGauge m_memory;
     graph::PlotAppearance m_appearance;
     Settings m_settings;
+    files::FileCommands m_files;
     bool m_ended = false; // the program has been ended: a later close request asks nothing
 };
 
