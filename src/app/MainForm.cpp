@@ -37,6 +37,7 @@ MainForm::MainForm(state::AppState& state, platform::MainControls& controls, pla
           [this] { m_plotter.PlotSample(); })
     , m_settings(
           state, controls, services.GRAPH_CWGraph, services.paths, [this] { m_memory.UpdateMemoryGauge(); })
+    , m_files(state, controls, services)
 {
     WireControls();
 }
@@ -147,19 +148,6 @@ void MainForm::Form_Load()
     m_settings.LoadSettings();
     m_memory.UpdateMemoryGauge();
     c.picPRINT.SetVisible(false);
-
-    DisableUnfinishedCommands();
-}
-
-void MainForm::DisableUnfinishedCommands()
-{
-    platform::MainControls& c = m_controls;
-    for (platform::Control* control : std::initializer_list<platform::Control*> { &c.MENU_OPEN_GRAPH,
-             &c.MENU_SAVE_GRAPH, &c.MENU_SAVE_GRAPG_AS, // graph file
-             &c.Save, &c.Save_As, &c.CMD_SAVE, // log text file
-             &c.Excel, &c.CMD_EXCEL, // spreadsheet export
-             &c.MENU_PRINT_GRAPH, &c.CMD_PRINT }) // printing
-        control->SetEnabled(false);
 }
 
 void MainForm::Form_Unload(int& cancel)
@@ -239,6 +227,16 @@ void MainForm::WireControls()
     c.CMD_PAGEDOWN.SetOnClick([this] { m_dataLog.ShowNextPage(); });
     c.CMD_RESET.SetOnClick([this] { m_dataLog.ClearLog(); });
     c.CLEAR_LOG.SetOnClick([this] { m_dataLog.ClearLog(); });
+    c.MENU_OPEN_GRAPH.SetOnClick([this] { m_files.Graph().OpenGraphFile(); });
+    c.MENU_SAVE_GRAPH.SetOnClick([this] { m_files.Graph().SaveGraphFile(); });
+    c.MENU_SAVE_GRAPG_AS.SetOnClick([this] { m_files.Graph().SaveGraphFileAs(); });
+    c.Save.SetOnClick([this] { m_files.LogText().SaveLogText(); });
+    c.CMD_SAVE.SetOnClick([this] { m_files.LogText().SaveLogText(); });
+    c.Save_As.SetOnClick([this] { m_files.LogText().SaveLogTextAs(); });
+    c.Excel.SetOnClick([this] { m_files.Export().ExportToSpreadsheet(); });
+    c.CMD_EXCEL.SetOnClick([this] { m_files.Export().ExportToSpreadsheet(); });
+    c.MENU_PRINT_GRAPH.SetOnClick([this] { m_files.Print().PrintGraph(); });
+    c.CMD_PRINT.SetOnClick([this] { m_files.Print().PrintGraph(); });
 
     c.Exit.SetOnClick([this] { Quit(); });
     c.CMD_EXIT.SetOnClick([this] { Quit(); });

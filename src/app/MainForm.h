@@ -3,6 +3,7 @@
 #include "app/Settings.h"
 #include "display/AnalogGauge.h"
 #include "display/VirtualLcd.h"
+#include "files/FileCommands.h"
 #include "graph/GraphCursors.h"
 #include "graph/PlotAppearance.h"
 #include "graph/Plotter.h"
@@ -49,12 +50,10 @@ public:
     log::SampleLogger& Logger() { return m_logger; }
     log::DataLogWindow& DataLog() { return m_dataLog; }
     link::FrameSimulator& Simulator() { return m_simulator; }
+    files::FileCommands& Files() { return m_files; }
 
 private:
     void WireControls();
-    // Commands whose handlers are not written yet are disabled at start-up, so that nothing in
-    // the window pretends to work. Each handler that lands takes its controls off this list.
-    void DisableUnfinishedCommands();
     void ShowAbout();
 
     state::AppState& m_state;
@@ -71,6 +70,7 @@ private:
     log::DataLogWindow m_dataLog;
     link::FrameSimulator m_simulator;
     Settings m_settings;
+    files::FileCommands m_files;
     bool m_ended = false; // the program has been ended: a later close request asks nothing
     std::function<void()> m_onFrameAccepted;
 };

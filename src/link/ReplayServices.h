@@ -9,8 +9,8 @@ namespace ventrix::link {
 
 // Every service the link's handlers need, for running the receive path without a window or a
 // line: the replay port, timers that only remember their settings, and inert clock, dialogs,
-// graph, dial, spreadsheet, printer, paths and shell. Message boxes answer Ok, or No to a
-// question. Nothing here draws, waits or touches a file.
+// graph, dial, spreadsheet, printer, paths, shell and graph print surface. Message boxes answer
+// Ok, or No to a question. Nothing here draws, waits or touches a file.
 class ReplayServices {
 public:
     ReplayServices() = default;
@@ -108,6 +108,17 @@ private:
         std::filesystem::path ProgramDirectory() const override { return {}; }
     };
 
+    class NullGraphPrint : public platform::GraphPrintSurface {
+    public:
+        void SetBackColours(std::uint32_t) override { }
+        void SetAxisColours(platform::GraphAxis, std::uint32_t) override { }
+        void SetPlotFillToBase(bool) override { }
+        void SetPlotLineColour(std::uint32_t) override { }
+        void SetPlotFillColour(std::uint32_t) override { }
+        void SetLabelFormat(platform::GraphAxis, const std::string&) override { }
+        void CaptureToPicture() override { }
+    };
+
     class NullShell : public platform::Shell {
     public:
         void SetBusyPointer(bool) override { }
@@ -127,8 +138,9 @@ private:
     platform::UnavailablePrinter m_printer;
     NullPaths m_paths;
     NullShell m_shell;
+    NullGraphPrint m_graphPrint;
     platform::Services m_services { m_port, { m_unlinkTimer, m_sampleTimer, m_analogTimer, m_debugTimer },
-        m_clock, m_dialogs, m_graph, m_knob, m_spreadsheet, m_printer, m_paths, m_shell };
+        m_clock, m_dialogs, m_graph, m_knob, m_spreadsheet, m_printer, m_paths, m_shell, m_graphPrint };
 };
 
 } // namespace ventrix::link

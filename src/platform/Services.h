@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/GraphControl.h"
+#include "platform/GraphPrintSurface.h"
 #include "platform/KnobControl.h"
 #include "platform/Printer.h"
 #include "platform/SerialPort.h"
@@ -34,6 +35,7 @@ struct Services {
     Printer& printer;
     AppPaths& paths;
     Shell& shell;
+    GraphPrintSurface& graphPrint;
 };
 
 } // namespace ventrix::platform

@@ -4,16 +4,15 @@
 
 namespace ventrix::platform {
 
-// Stands in where there is no spreadsheet writer (the program until it has one, the capture
-// replay): no workbook can be made, so every export ends at Create() on its normal failure
-// path. Writes nothing.
+// Stands in where there is no spreadsheet writer (the capture replay): no workbook can be made,
+// so every export ends at Create() on its normal failure path. Writes nothing.
 class UnavailableSpreadsheet : public Spreadsheet {
 public:
     bool Create() override { return false; }
-    void SetStandardWidth(double) override { }
+    bool SetStandardWidth(double) override { return false; }
     bool SetCellText(const std::string&, const std::string&) override { return false; }
-    void SetBold(const std::string&) override { }
-    void Finish() override { }
+    bool SetBold(const std::string&) override { return false; }
+    void Release() override { }
 };
 
 } // namespace ventrix::platform

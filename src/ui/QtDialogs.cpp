@@ -37,11 +37,11 @@ QString FromUtf8(const std::string& text)
     return QString::fromStdString(text);
 }
 
-// Print dialog flags the handlers pass: no "selection" range, no page numbers, no "print to
-// file" check box.
+// Print dialog flags the handlers pass: no "selection" range, no page numbers. The flag that
+// hides a "print to file" check box (0x100000) has nothing to hide here: Qt's "Print to File
+// (PDF)" is a printer of its own, kept in the list so that a page can always go to a PDF file.
 constexpr int kNoSelection = 0x4;
 constexpr int kNoPageNumbers = 0x8;
-constexpr int kHidePrintToFile = 0x100000;
 constexpr int kOverwritePrompt = 0x2;
 } // namespace
 
@@ -118,15 +118,14 @@ std::optional<std::string> QtDialogs::ShowFile(const platform::FileDialogRequest
 
 std::optional<platform::PrintDialogResult> QtDialogs::ShowPrint(int flags)
 {
-    QPrinter printer;
+    QPrinter ownPrinter;
+    QPrinter& printer = m_printer != nullptr ? *m_printer : ownPrinter;
     QPrintDialog dialog(&printer, m_parent);
-    QAbstractPrintDialog::PrintDialogOptions options = dialog.options();
+    QAbstractPrintDialog::PrintDialogOptions options = dialog.options() | QAbstractPrintDialog::PrintToFile;
     if ((flags & kNoSelection) != 0)
         options &= ~QAbstractPrintDialog::PrintSelection;
     if ((flags & kNoPageNumbers) != 0)
         options &= ~QAbstractPrintDialog::PrintPageRange;
-    if ((flags & kHidePrintToFile) != 0)
-        options &= ~QAbstractPrintDialog::PrintToFile;
     dialog.setOptions(options);
     const int accepted = m_gate.Hold([&dialog] { return dialog.exec(); });
     if (accepted != QDialog::Accepted)

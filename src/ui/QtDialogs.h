@@ -7,6 +7,8 @@
 #include <QString>
 #include <QWidget>
 
+class QPrinter;
+
 namespace ventrix::ui {
 
 // Message boxes, file dialogs and the print dialog on QMessageBox, QFileDialog and QPrintDialog,
@@ -18,6 +20,9 @@ public:
     explicit QtDialogs(io::ModalGate& gate, QWidget* parent = nullptr);
 
     void SetParent(QWidget* parent) { m_parent = parent; }
+    // The printer the print dialog sets up (the one that then prints); without one the dialog
+    // sets up a printer of its own.
+    void SetPrinter(QPrinter* printer) { m_printer = printer; }
 
     platform::MessageResult MessageBox(const std::string& text, platform::MessageButtons buttons,
         platform::MessageIcon icon, const std::string& title) override;
@@ -40,6 +45,7 @@ private:
     io::ModalGate& m_gate;
     QPointer<QWidget> m_parent;
     QPointer<QWidget> m_about;
+    QPrinter* m_printer = nullptr;
 };
 
 } // namespace ventrix::ui

@@ -4,24 +4,29 @@
 #include "io/QtSerialPortAdapter.h"
 #include "io/StandardAppPaths.h"
 #include "io/SystemClock.h"
+#include "io/WorkbookPath.h"
+#include "io/XlsxSpreadsheet.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
-#include "platform/UnavailablePrinter.h"
-#include "platform/UnavailableSpreadsheet.h"
 #include "state/AppState.h"
 #include "ui/DialKnob.h"
 #include "ui/HelpWindow.h"
 #include "ui/MainWindow.h"
 #include "ui/PanelStyle.h"
 #include "ui/QtDialogs.h"
+#include "ui/QtPrinter.h"
 #include "ui/QtShell.h"
 #include "ui/QwtGraphAdapter.h"
+#include "ui/QwtPrintSurface.h"
 #include "ui/ToolIcons.h"
+#include "ui/WorkbookHandover.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
+#include <QStatusBar>
 
 using namespace ventrix;
 
@@ -64,17 +69,29 @@ int main(int argc, char** argv)
             nullptr, QStringLiteral("Ventrix"), QString::fromStdString(lock.RefusalMessage()));
         return 1;
     }
-    platform::UnavailableSpreadsheet spreadsheet;
-    platform::UnavailablePrinter printer;
     ui::QtShell shell;
 
     state::AppState state;
     platform::MainControls controls;
     ui::MainWindow window(controls, gate);
     ui::QtDialogs dialogs(gate, &window);
+    shell.SetStatusBar(window.statusBar());
+
+    // The export's workbook goes to the documents folder, opens in the spreadsheet application
+    // and is named in the status bar.
+    io::XlsxSpreadsheet spreadsheet(
+        [&paths] { return io::WorkbookPath::NewWorkbook(paths.ProgramDirectory()); },
+        ui::WorkbookHandover(window.statusBar()));
+    // The hidden picture box picPRINT holds the graph captured for the printer.
+    QLabel fallbackPicture;
+    auto* picPRINT = window.findChild<QLabel*>(QStringLiteral("picPRINT"));
+    QLabel& picture = picPRINT != nullptr ? *picPRINT : fallbackPicture;
+    ui::QwtPrintSurface graphPrint(window.Graph(), picture);
+    ui::QtPrinter printer(picture);
+    dialogs.SetPrinter(&printer.Device());
 
     platform::Services services { serial, window.Timers(), clock, dialogs, window.Graph(), window.Knob(),
-        spreadsheet, printer, paths, shell };
+        spreadsheet, printer, paths, shell, graphPrint };
     app::MainForm form(state, controls, services);
     window.SetCloseHandler([&form](int& cancel) { form.Form_Unload(cancel); });
     window.WatchState(state);

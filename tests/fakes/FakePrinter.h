@@ -7,26 +7,35 @@
 
 namespace ventrix::fakes {
 
-// A printer that records what was sent to it; fail makes every call report an error.
+// A printer that records what was sent to it. Like a real one it sends a page only when the
+// document is ended. failFrom makes that call and every later one fail (0: the first call).
 class FakePrinter : public platform::Printer {
 public:
-    bool SetOrientation(int value) override { return Record(orientation = value); }
-    bool PrintLine(const std::string& text) override
-    {
-        lines.push_back(text);
-        return !fail;
-    }
-    bool PaintGraphPicture(double, double, double) override { return Record(++pictures); }
-    bool EndDocument() override { return Record(++documents); }
+    struct Picture {
+        double left;
+        double top;
+        double scale;
+    };
 
-    bool fail = false;
+    bool SetOrientation(int value) override { return Call() && (orientation = value, true); }
+    bool SetCopies(int value) override { return Call() && (copies = value, true); }
+    bool PrintLine(const std::string& text) override { return Call() && (lines.push_back(text), true); }
+    bool PaintPicture(double left, double top, double scale) override
+    {
+        return Call() && (pictures.push_back({ left, top, scale }), true);
+    }
+    bool EndDocument() override { return Call() && (++sentPages, true); }
+
+    int failFrom = -1;
+    int calls = 0;
     int orientation = 0;
-    int pictures = 0;
-    int documents = 0;
+    int copies = 0;
+    int sentPages = 0;
     std::vector<std::string> lines;
+    std::vector<Picture> pictures;
 
 private:
-    bool Record(int) const { return !fail; }
+    bool Call() { return failFrom < 0 || calls++ < failFrom; }
 };
 
 } // namespace ventrix::fakes

@@ -8,29 +8,35 @@
 
 namespace ventrix::fakes {
 
-// A workbook held in memory. failCreate makes Create() fail; failAfterCells makes the cell write
-// after that many succeed fail, as when the user closes the spreadsheet during an export.
+// A workbook held in memory that, like the real writer, takes rows in order only: a cell above
+// the last row written fails. failCreate makes Create() fail; failAfterCells makes the cell
+// write after that many succeed fail, as when the user closes the workbook during an export.
 class FakeSpreadsheet : public platform::Spreadsheet {
 public:
     bool Create() override { return created = !failCreate; }
-    void SetStandardWidth(double width) override { standardWidth = width; }
-    bool SetCellText(const std::string& cell, const std::string& text) override
+    bool SetStandardWidth(double width) override
     {
-        if (failAfterCells >= 0 && static_cast<int>(cells.size()) >= failAfterCells)
-            return false;
-        cells[cell] = text;
+        standardWidth = width;
         return true;
     }
-    void SetBold(const std::string& range) override { boldRanges.push_back(range); }
-    void Finish() override { finished = true; }
+    bool SetCellText(const std::string& cell, const std::string& text) override;
+    bool SetBold(const std::string& range) override
+    {
+        boldRanges.push_back(range);
+        return true;
+    }
+    void Release() override { ++releases; }
 
     bool failCreate = false;
     int failAfterCells = -1;
     bool created = false;
-    bool finished = false;
+    int releases = 0;
     double standardWidth = 0.0;
     std::map<std::string, std::string> cells;
     std::vector<std::string> boldRanges;
+
+private:
+    long long m_lastRow = 0;
 };
 
 } // namespace ventrix::fakes

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fakes/FakeGraph.h"
+#include "fakes/FakeGraphPrintSurface.h"
 #include "fakes/FakeKnob.h"
 #include "fakes/FakePrinter.h"
 #include "fakes/FakeSerialPort.h"
@@ -34,8 +35,9 @@ struct TestRig {
     FakePrinter printer;
     TempAppPaths paths;
     FakeShell shell;
+    FakeGraphPrintSurface graphPrint;
     platform::Services services { serial, { unlinkTimer, sampleTimer, analogTimer, debugTimer }, clock,
-        dialogs, graph, knob, spreadsheet, printer, paths, shell };
+        dialogs, graph, knob, spreadsheet, printer, paths, shell, graphPrint };
 };
 
 } // namespace ventrix::fakes

@@ -30,7 +30,7 @@ TEST(VirtualMeterEndToEnd, ReadingsArriveInTheState)
     ventrix::io::QtSerialPortAdapter port(gate);
     ventrix::platform::Services services { port,
         { rig.unlinkTimer, rig.sampleTimer, rig.analogTimer, rig.debugTimer }, rig.clock, rig.dialogs,
-        rig.graph, rig.knob, rig.spreadsheet, rig.printer, rig.paths, rig.shell };
+        rig.graph, rig.knob, rig.spreadsheet, rig.printer, rig.paths, rig.shell, rig.graphPrint };
     ventrix::display::VirtualLcd lcd(rig.state, rig.controls);
     ventrix::display::AnalogGauge gauge(rig.state, rig.knob, rig.analogTimer);
     ventrix::link::SerialLink link(rig.state, rig.controls, services, lcd, gauge);

@@ -41,7 +41,8 @@ TEST(HelpWindowTest, HelpCommandsOpenTheViewerOnTheirView)
     QtShell shell;
     platform::Services services { fakes.serial,
         { fakes.unlinkTimer, fakes.sampleTimer, fakes.analogTimer, fakes.debugTimer }, fakes.clock,
-        fakes.dialogs, fakes.graph, fakes.knob, fakes.spreadsheet, fakes.printer, fakes.paths, shell };
+        fakes.dialogs, fakes.graph, fakes.knob, fakes.spreadsheet, fakes.printer, fakes.paths, shell,
+        fakes.graphPrint };
     io::ModalGate gate;
     MainWindow window(fakes.controls, gate);
     app::MainForm form(fakes.state, fakes.controls, services);

@@ -268,7 +268,8 @@ TEST(QwtGraphAdapterTest, DraggingACursorInTheWindowUpdatesTheReadouts)
     io::ModalGate gate;
     MainWindow window(fakes.controls, gate);
     platform::Services services { fakes.serial, fakes.services.timers, fakes.clock, fakes.dialogs,
-        window.Graph(), fakes.knob, fakes.spreadsheet, fakes.printer, fakes.paths, fakes.shell };
+        window.Graph(), fakes.knob, fakes.spreadsheet, fakes.printer, fakes.paths, fakes.shell,
+        fakes.graphPrint };
     app::MainForm form(fakes.state, fakes.controls, services);
     form.Form_Load();
     window.show();

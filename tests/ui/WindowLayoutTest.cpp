@@ -72,7 +72,7 @@ struct LiveWindow {
     QtDialogs dialogs { gate, &window };
     platform::Services services { rig.serial,
         { rig.unlinkTimer, rig.sampleTimer, rig.analogTimer, rig.debugTimer }, rig.clock, dialogs, rig.graph,
-        window.Knob(), rig.spreadsheet, rig.printer, rig.paths, rig.shell };
+        window.Knob(), rig.spreadsheet, rig.printer, rig.paths, rig.shell, rig.graphPrint };
     app::MainForm form { rig.state, rig.controls, services };
 };
 

@@ -6,5 +6,8 @@ namespace ventrix::cli {
 int RunMeter(int argc, char** argv);
 // `ventrix-cli decode [FILE]`: a captured byte stream through the receive path, as JSON lines.
 int RunDecode(int argc, char** argv);
+// `ventrix-cli convert FILE [--text OUT] [--xlsx OUT]`: sample records into the text file or the
+// workbook the program writes.
+int RunConvert(int argc, char** argv);
 
 } // namespace ventrix::cli

@@ -17,7 +17,11 @@ const char kUsage[] = "usage: ventrix-cli <command> [options]\n"
                       "  decode [FILE]\n"
                       "      Runs a captured byte stream (FILE, or standard input) through the\n"
                       "      program's receive path and decoder and prints one JSON object per\n"
-                      "      line for every accepted frame.\n";
+                      "      line for every accepted frame.\n"
+                      "  convert FILE [--text OUT] [--xlsx OUT]\n"
+                      "      Turns a file of 8-byte sample records (the swap file BUFFER.SWP or a\n"
+                      "      *.gph graph file) into the program's text file or workbook, or with no\n"
+                      "      option into lines on standard output. See convert --help.\n";
 
 } // namespace
 
@@ -27,6 +31,8 @@ int main(int argc, char** argv)
         return ventrix::cli::RunMeter(argc - 2, argv + 2);
     if (argc >= 2 && std::strcmp(argv[1], "decode") == 0)
         return ventrix::cli::RunDecode(argc - 2, argv + 2);
+    if (argc >= 2 && std::strcmp(argv[1], "convert") == 0)
+        return ventrix::cli::RunConvert(argc - 2, argv + 2);
     if (argc >= 2
         && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0
             || std::strcmp(argv[1], "help") == 0)) {
