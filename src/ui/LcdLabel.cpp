@@ -320,10 +320,22 @@ void LcdLabel::PaintUnit(QPainter& painter, const QRectF& area, const QColor& in
 {
     // The unit sits on the digits' baseline, right-aligned; AC stands above it in the
     // annunciators' size.
+    // Every unit is drawn at one size: the legend size, or less where the widest unit the meter
+    // shows would not fit the box.
+    static const QStringList kWidestUnits { QStringLiteral("Logic"), QStringLiteral("CONT"),
+        QStringLiteral("dBm"), QStringLiteral("MHz") };
+    double pixels = m_legendPixels;
+    const QFontMetricsF probe(WordFont(pixels));
+    double widest = 0.0;
+    for (const QString& unit : kWidestUnits)
+        widest = std::max(widest, probe.horizontalAdvance(unit));
+    if (widest > area.width())
+        pixels *= area.width() / widest;
+
     const UnitFace face = UnitFaceOf(text());
     const double baseline = area.top() + area.height() * 0.92;
     const QRectF unitArea(area.left(), area.top(), area.width(), baseline - area.top());
-    PaintWord(painter, unitArea, face.unit, m_legendPixels, ink, Qt::AlignRight | Qt::AlignBottom);
+    PaintWord(painter, unitArea, face.unit, pixels, ink, Qt::AlignRight | Qt::AlignBottom);
     if (face.ac) {
         const double gap = m_legendPixels * 0.35;
         const double acBottom = baseline - QFontMetricsF(WordFont(m_legendPixels)).capHeight() - gap;

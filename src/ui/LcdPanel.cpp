@@ -35,8 +35,8 @@ const std::array<Placement, 8> kPlacements { {
     { "FUNCTION_LBL", LcdLabel::Role::Annunciator, { 282, 13, 64, 20 } },
     { "MIN_LBL", LcdLabel::Role::Annunciator, { 350, 13, 50, 20 } },
     { "NEG_LBL", LcdLabel::Role::Minus, { 16, 38, 38, 98 } },
-    { "DIGIT_LBL", LcdLabel::Role::Digits, { 56, 38, 272, 98 } },
-    { "MODE_LBL", LcdLabel::Role::Unit, { 328, 38, 82, 96 } },
+    { "DIGIT_LBL", LcdLabel::Role::Digits, { 54, 38, 270, 98 } },
+    { "MODE_LBL", LcdLabel::Role::Unit, { 328, 38, 74, 96 } },
 } };
 
 } // namespace

@@ -71,11 +71,14 @@ void MeterStatus::Refresh()
     }
     m_port->setText(PortText());
     m_activity->setText(ActivityText());
-    m_activity->setProperty("state",
-        m_live ? QStringLiteral("live")
-               : (m_state.IsAcquiring ? QStringLiteral("waiting") : QStringLiteral("idle")));
-    m_activity->style()->unpolish(m_activity);
-    m_activity->style()->polish(m_activity);
+    // The colour of the activity text follows its state through the style sheet.
+    const QString state = m_live ? QStringLiteral("live")
+                                 : (m_state.IsAcquiring ? QStringLiteral("waiting") : QStringLiteral("idle"));
+    if (m_activity->property("state").toString() != state) {
+        m_activity->setProperty("state", state);
+        m_activity->style()->unpolish(m_activity);
+        m_activity->style()->polish(m_activity);
+    }
     m_samples->setText(SamplesText());
 }
 
