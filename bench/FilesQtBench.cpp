@@ -4,7 +4,7 @@
 
 #include "fakes/TestRig.h"
 #include "files/GraphPrint.h"
-#include "files/LogFill.h"
+#include "files/FilesTestRig.h"
 #include "files/LogTextFile.h"
 #include "files/SpreadsheetExport.h"
 #include "io/XlsxSpreadsheet.h"
