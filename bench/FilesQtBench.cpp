@@ -3,8 +3,8 @@
 // and printing the full graph to a PDF file (with the file's size).
 
 #include "fakes/TestRig.h"
+#include "files/FilesTestRig.h"
 #include "files/GraphPrint.h"
-#include "files/LogFill.h"
 #include "files/LogTextFile.h"
 #include "files/SpreadsheetExport.h"
 #include "io/XlsxSpreadsheet.h"

@@ -19,7 +19,15 @@ public:
         standardWidth = width;
         return true;
     }
-    bool SetCellText(const std::string& cell, const std::string& text) override;
+    bool SetCellText(const std::string& cell, const std::string& text) override
+    {
+        const long long row = std::stoll(cell.substr(1));
+        if ((failAfterCells >= 0 && static_cast<int>(cells.size()) >= failAfterCells) || row < m_lastRow)
+            return false;
+        m_lastRow = row;
+        cells[cell] = text;
+        return true;
+    }
     bool SetBold(const std::string& range) override
     {
         boldRanges.push_back(range);

@@ -2,7 +2,6 @@
 #include "io/XlsxSpreadsheet.h"
 
 #include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
@@ -16,13 +15,19 @@ struct Result {
     std::string err;
 };
 
-Result Convert(const QStringList& arguments)
+Result RunProgram(const QString& program, const QStringList& arguments)
 {
     QProcess process;
-    process.start(VENTRIX_CLI_PATH, QStringList { "convert" } + arguments);
+    process.start(program, arguments);
     process.waitForFinished(30000);
     return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-        process.readAllStandardOutput().toStdString(), process.readAllStandardError().toStdString() };
+        process.readAllStandardOutput().trimmed().toStdString(),
+        process.readAllStandardError().toStdString() };
+}
+
+Result Convert(const QStringList& arguments)
+{
+    return RunProgram(VENTRIX_CLI_PATH, QStringList { "convert" } + arguments);
 }
 
 QString Q(const std::filesystem::path& path)
@@ -30,100 +35,66 @@ QString Q(const std::filesystem::path& path)
     return QString::fromStdString(path.string());
 }
 
-// The parts of two workbooks that hold the table and its formats, compared by Python's zipfile.
-std::string SameSheets(const std::filesystem::path& a, const std::filesystem::path& b)
-{
-    QProcess python;
-    python.start(QStringLiteral("/usr/bin/python3"),
-        { QStringLiteral("-c"),
-            QStringLiteral("import sys, zipfile\n"
-                           "parts = ['xl/worksheets/sheet1.xml', 'xl/styles.xml']\n"
-                           "a, b = (zipfile.ZipFile(p) for p in sys.argv[1:3])\n"
-                           "print('same' if all(a.read(p) == b.read(p) for p in parts) else 'differ')\n"),
-            Q(a), Q(b) });
-    python.waitForFinished(30000);
-    return (python.readAllStandardOutput() + python.readAllStandardError()).trimmed().toStdString();
-}
-
-// The swap file of a log of 2,000 samples turns into the very text file and workbook that the
-// program's save and export write for that log.
+// The swap file of a log of 2,000 samples turns into the very text file and workbook (its sheet
+// and formats) that the program's save and export write for that log.
 TEST(ConvertCommand, SwapFileGivesTheProgramsTextFileAndWorkbook)
 {
     FilesTestRig t;
     t.Fill(2000);
-    const std::filesystem::path saved = t.File("saved.txt");
-    t.rig.dialogs.fileAnswers.push_back(saved.string());
+    t.rig.dialogs.fileAnswers.push_back(t.File("saved.txt").string());
     t.c.Save_As.Click();
-    const std::filesystem::path exported = t.File("exported.xlsx");
-    ventrix::io::XlsxSpreadsheet workbook([&] { return exported; });
-    ventrix::platform::Services services = t.rig.services;
-    ventrix::platform::Services withWorkbook { services.MSComm1, services.timers, services.clock,
-        services.dialogs, services.GRAPH_CWGraph, services.KNOB_ANALOG, workbook, services.printer,
-        services.paths, services.shell, services.graphPrint };
-    ventrix::files::SpreadsheetExport(t.s, withWorkbook).ExportToSpreadsheet();
+    ventrix::io::XlsxSpreadsheet workbook([&] { return t.File("exported.xlsx"); });
+    const ventrix::platform::Services& s = t.rig.services;
+    ventrix::platform::Services services { s.MSComm1, s.timers, s.clock, s.dialogs, s.GRAPH_CWGraph,
+        s.KNOB_ANALOG, workbook, s.printer, s.paths, s.shell, s.graphPrint };
+    ventrix::files::SpreadsheetExport(t.s, services).ExportToSpreadsheet();
 
-    const std::filesystem::path text = t.File("converted.txt");
-    const std::filesystem::path xlsx = t.File("converted.xlsx");
-    const Result r = Convert({ Q(t.rig.paths.SwapFile()), "--text", Q(text), "--xlsx", Q(xlsx) });
+    const Result r = Convert({ Q(t.rig.paths.SwapFile()), "--text", Q(t.File("converted.txt")), "--xlsx",
+        Q(t.File("converted.xlsx")) });
     EXPECT_EQ(r.exitCode, 0) << r.err;
-    EXPECT_TRUE(r.out.empty());
-    ASSERT_EQ(ReadFile(saved).size(), 2000u * 28);
-    EXPECT_EQ(ReadFile(text), ReadFile(saved));
-    EXPECT_EQ(SameSheets(xlsx, exported), "same");
-
-    const Result lines = Convert({ Q(t.rig.paths.SwapFile()) });
-    std::string expected = ReadFile(saved);
-    for (std::size_t at; (at = expected.find("\r\n")) != std::string::npos;)
-        expected.erase(at, 1);
-    EXPECT_EQ(lines.out, expected);
+    ASSERT_EQ(ReadFile(t.File("saved.txt")).size(), 2000u * 28);
+    EXPECT_EQ(ReadFile(t.File("converted.txt")), ReadFile(t.File("saved.txt")));
+    const Result sheets = RunProgram(QStringLiteral("/usr/bin/python3"),
+        { "-c",
+            "import sys, zipfile\n"
+            "a, b = (zipfile.ZipFile(p) for p in sys.argv[1:3])\n"
+            "print(all(a.read(p) == b.read(p) for p in ['xl/worksheets/sheet1.xml', 'xl/styles.xml']))\n",
+            Q(t.File("converted.xlsx")), Q(t.File("exported.xlsx")) });
+    EXPECT_EQ(sheets.out, "True") << sheets.err;
 }
 
-// A trailing piece is ignored with a warning; a record that cannot be formatted ends every output
-// there, named on standard error, with status 1.
-TEST(ConvertCommand, StopsAtARecordTheProgramCannotFormat)
+// A trailing piece is ignored with a warning; a record that cannot be formatted ends the output
+// there, named on standard error, with status 1. Bad input: one line and status 2.
+TEST(ConvertCommand, StopsAtARecordTheProgramCannotFormatAndRefusesBadInput)
 {
-    QTemporaryDir dir;
-    const std::filesystem::path input = dir.filePath("records.gph").toStdString();
+    FilesTestRig t;
     std::string bytes;
-    for (int k = 0; k < 2; ++k) {
-        const auto record = ventrix::testing::Sample(k);
+    for (const auto& record : { ventrix::testing::Sample(0), ventrix::testing::Sample(1) })
         bytes.append(record.begin(), record.end());
-    }
-    bytes += std::string { 1, 2, 3, 15, 1, 20, 0, 0 } + std::string(8, 'x') + "abc";
-    ventrix::testing::WriteFile(input, bytes);
-
-    const std::filesystem::path text = dir.filePath("out.txt").toStdString();
-    const Result r = Convert({ Q(input), "--text", Q(text) });
+    ventrix::testing::WriteFile(
+        t.File("in.gph"), bytes + std::string { 1, 2, 3, 15, 1, 20, 0, 0 } + "12345678abc");
+    const Result r = Convert({ Q(t.File("in.gph")), "--text", Q(t.File("out.txt")) });
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_NE(r.err.find("3 bytes"), std::string::npos) << r.err;
     EXPECT_NE(r.err.find("record 3 "), std::string::npos) << r.err;
-    EXPECT_EQ(ReadFile(text), "12:00:00 AM        120.0mV\r\n12:00:01 AM        120.1mV\r\n");
-    EXPECT_EQ(Convert({ Q(input) }).out, "12:00:00 AM        120.0mV\n12:00:01 AM        120.1mV\n");
-}
+    EXPECT_EQ(ReadFile(t.File("out.txt")), "12:00:00 AM        120.0mV\r\n12:00:01 AM        120.1mV\r\n");
+    EXPECT_EQ(Convert({ Q(t.File("in.gph")) }).out, "12:00:00 AM        120.0mV\n12:00:01 AM        120.1mV");
 
-TEST(ConvertCommand, BadInputGivesOneLineAndStatus2)
-{
-    QTemporaryDir dir;
-    ventrix::testing::WriteFile(dir.filePath("ok.swp").toStdString(), std::string(8, ' '));
     const struct {
         QStringList arguments;
         const char* expect;
     } cases[] = {
-        { { dir.filePath("missing.swp") }, "cannot read" },
-        { { dir.path() }, "is a directory" },
-        { { dir.filePath("ok.swp"), "--text", dir.filePath("no/such/dir.txt") }, "cannot write" },
-        { { dir.filePath("ok.swp"), "--xlsx" }, "needs a value" },
-        { {}, "expected a FILE" },
+        { { Q(t.File("missing.swp")) }, "cannot read" },
+        { { Q(t.File(".")) }, "is a directory" },
+        { { Q(t.File("out.txt")), "--text", Q(t.File("no/such/dir.txt")) }, "cannot write" },
     };
     for (const auto& c : cases) {
-        const Result r = Convert(c.arguments);
-        EXPECT_EQ(r.exitCode, 2) << c.expect;
-        EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
-        EXPECT_NE(r.err.find(c.expect), std::string::npos) << r.err;
+        const Result bad = Convert(c.arguments);
+        EXPECT_EQ(bad.exitCode, 2) << c.expect;
+        EXPECT_EQ(std::count(bad.err.begin(), bad.err.end(), '\n'), 1) << bad.err;
+        EXPECT_NE(bad.err.find(c.expect), std::string::npos) << bad.err;
     }
-    const Result help = Convert({ "--help" });
-    EXPECT_EQ(help.exitCode, 0);
-    EXPECT_NE(help.out.find("--xlsx OUT"), std::string::npos);
+    EXPECT_NE(Convert({ "--help" }).out.find("--xlsx OUT"), std::string::npos);
 }
 
 } // namespace

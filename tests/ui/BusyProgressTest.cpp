@@ -1,11 +1,8 @@
 #include "ui/QtShell.h"
-#include "ui/WorkbookHandover.h"
 
-#include <QDesktopServices>
 #include <QMainWindow>
 #include <QProgressBar>
 #include <QStatusBar>
-#include <QTextBrowser>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -35,22 +32,6 @@ TEST(BusyProgress, ShownWhileBusyWithoutRunningOtherEvents)
     EXPECT_FALSE(otherEventRan);
     shell.SetBusyPointer(false);
     EXPECT_TRUE(bar->isHidden());
-}
-
-// The finished workbook goes to the desktop's handler for the file and is named in the status
-// bar; one that could not be written is named there too.
-TEST(BusyProgress, WorkbookIsOpenedAndNamed)
-{
-    QStatusBar status;
-    QTextBrowser opened; // stands in for the desktop's handler of files
-    QDesktopServices::setUrlHandler(QStringLiteral("file"), &opened, "setSource");
-    WorkbookHandover handover(&status);
-    handover("/tmp/Ventrix export.xlsx", true);
-    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
-    EXPECT_EQ(opened.source(), QUrl::fromLocalFile(QStringLiteral("/tmp/Ventrix export.xlsx")));
-    EXPECT_EQ(status.currentMessage(), QStringLiteral("Exported to /tmp/Ventrix export.xlsx"));
-    handover("/nowhere/x.xlsx", false);
-    EXPECT_EQ(status.currentMessage(), QStringLiteral("The workbook /nowhere/x.xlsx could not be written"));
 }
 
 } // namespace
