@@ -144,10 +144,7 @@ void SerialLink::OnComm()
 void SerialLink::AssembleFrame(const std::string& received)
 {
     // Any receive event, valid or not, restarts the link supervision.
-    platform::Timer& unlink = m_services.timers.UNLINK_TIMER;
-    unlink.SetEnabled(false);
-    unlink.SetInterval(kUnlinkIntervalMs);
-    unlink.SetEnabled(true);
+    RestartSupervision();
 
     // The stream has no start marker: try the first few alignments for a frame whose checksum
     // and LCD bytes fit.
@@ -203,8 +200,12 @@ void SerialLink::UnlinkTimerTick()
     const platform::MessageResult answer
         = m_services.dialogs.MessageBox("No data for more than 10sec, Continue?",
             platform::MessageButtons::YesNo, platform::MessageIcon::Question, kWarningTitle);
-    if (answer == platform::MessageResult::Yes)
+    if (answer != platform::MessageResult::No) {
+        // Only an explicit No stops. The timer went on counting while the box was open: the next
+        // question comes 15 s after the answer, not at the next beat of the old countdown.
+        RestartSupervision();
         return;
+    }
 
     // Unlike StopAcquisition: the receive buffer, the relative-mode guard and the simulator
     // timer are left alone.
@@ -215,6 +216,14 @@ void SerialLink::UnlinkTimerTick()
     ResetFrameState();
     StopTimers();
     SetOptionMenus(true);
+}
+
+void SerialLink::RestartSupervision()
+{
+    platform::Timer& unlink = m_services.timers.UNLINK_TIMER;
+    unlink.SetEnabled(false);
+    unlink.SetInterval(kUnlinkIntervalMs);
+    unlink.SetEnabled(true);
 }
 
 void SerialLink::RequestExtremaReset()

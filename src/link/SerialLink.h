@@ -53,6 +53,7 @@ public:
 
 private:
     void RefuseRelativeStart();
+    void RestartSupervision(); // UNLINK_TIMER counts 15 s from now
 
     state::AppState& m_state;
     platform::MainControls& m_controls;

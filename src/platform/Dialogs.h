@@ -7,7 +7,8 @@ namespace ventrix::platform {
 
 enum class MessageButtons { Ok, YesNo };
 enum class MessageIcon { None, Question, Exclamation, Information };
-enum class MessageResult { Ok, Yes, No };
+// Dismissed: a question closed or escaped without choosing Yes or No.
+enum class MessageResult { Ok, Yes, No, Dismissed };
 
 struct FileDialogRequest {
     std::string title;

@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QStringList>
 
 namespace ventrix::ui {
@@ -58,14 +59,20 @@ MessageResult QtDialogs::MessageBox(
     if (buttons == MessageButtons::YesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(QMessageBox::Yes);
-        box.setEscapeButton(QMessageBox::No);
+        // Escape or closing the box answers neither: a hidden Cancel takes them, so that only an
+        // explicit No counts as No.
+        QPushButton* dismissed = box.addButton(QMessageBox::Cancel);
+        dismissed->hide();
+        box.setEscapeButton(dismissed);
     } else {
         box.setStandardButtons(QMessageBox::Ok);
     }
     const int answer = m_gate.Hold([&box] { return box.exec(); });
     if (buttons == MessageButtons::Ok)
         return MessageResult::Ok;
-    return answer == QMessageBox::Yes ? MessageResult::Yes : MessageResult::No;
+    if (answer == QMessageBox::Yes)
+        return MessageResult::Yes;
+    return answer == QMessageBox::No ? MessageResult::No : MessageResult::Dismissed;
 }
 
 void QtDialogs::ShowAbout()

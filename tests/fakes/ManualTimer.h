@@ -7,21 +7,23 @@
 
 namespace ventrix::fakes {
 
-// A timer that ticks only when the test calls Fire(). Counts restarts (interval writes and
-// enables) so tests can tell whether a handler restarted it.
+// A timer that ticks only when the test calls Fire(). Counts restarts of its countdown as the Qt
+// timer makes them: a changed interval while running, or an enable after a disable; writing the
+// interval it already has, or enabling it while enabled, keeps the countdown.
 class ManualTimer : public platform::Timer {
 public:
     void SetInterval(int milliseconds) override
     {
+        if (milliseconds != interval_ && enabled_)
+            ++restarts;
         interval_ = milliseconds;
-        ++restarts;
     }
     int Interval() const override { return interval_; }
     void SetEnabled(bool enabled) override
     {
-        enabled_ = enabled;
-        if (enabled)
+        if (enabled && !enabled_)
             ++restarts;
+        enabled_ = enabled;
     }
     bool Enabled() const override { return enabled_; }
     void SetOnTick(std::function<void()> handler) override { onTick_ = std::move(handler); }

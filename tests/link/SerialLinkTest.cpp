@@ -142,12 +142,16 @@ TEST(SerialLinkTest, StopAndLinkLoss)
     EXPECT_FALSE(stop.rig.debugTimer.Enabled());
     EXPECT_EQ(stop.rig.debugTimer.Interval(), 200);
 
-    for (MessageResult answer : { MessageResult::Yes, MessageResult::No }) {
+    // Yes, or a box closed without an answer, goes on and counts 15 s from the answer; only No
+    // stops.
+    for (MessageResult answer : { MessageResult::Yes, MessageResult::Dismissed, MessageResult::No }) {
         Linked t;
         t.Run();
         t.rig.dialogs.answers = { answer };
+        const int restarts = t.rig.unlinkTimer.restarts;
         t.rig.unlinkTimer.Fire();
-        t.Expect(answer == MessageResult::Yes, 2, false,
+        EXPECT_EQ(t.rig.unlinkTimer.restarts, restarts + (answer == MessageResult::No ? 0 : 1));
+        t.Expect(answer != MessageResult::No, 2, false,
             Box { "No data for more than 10sec, Continue?", MessageButtons::YesNo, MessageIcon::Question,
                 "Warning" });
         EXPECT_TRUE(t.rig.debugTimer.Enabled());

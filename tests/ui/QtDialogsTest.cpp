@@ -37,10 +37,16 @@ TEST(QtDialogsTest, MessageBoxesShowTheirButtonsAndReturnTheAnswer)
         QMessageBox::Icon expectedIcon;
         MessageResult expected;
     } cases[] = {
-        { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::Yes, QMessageBox::Yes | QMessageBox::No,
-            QMessageBox::Question, MessageResult::Yes },
+        // A question has Yes and No; its hidden Cancel takes Escape and closing, which answer neither.
+        { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::Yes,
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Question,
+            MessageResult::Yes },
+        { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::No,
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Question,
+            MessageResult::No },
         { MessageButtons::YesNo, MessageIcon::Question, QMessageBox::NoButton,
-            QMessageBox::Yes | QMessageBox::No, QMessageBox::Question, MessageResult::No },
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Question,
+            MessageResult::Dismissed },
         { MessageButtons::Ok, MessageIcon::Exclamation, QMessageBox::Ok, QMessageBox::Ok,
             QMessageBox::Warning, MessageResult::Ok },
     };
