@@ -5,7 +5,7 @@ packages=(
   cmake ninja-build g++ pkgconf
   qtbase5-dev libqt5serialport5-dev libqwt-qt5-dev libxlsxwriter-dev
   libgtest-dev libbenchmark-dev
-  socat xvfb xauth fonts-dseg
+  socat xvfb xauth fonts-dseg desktop-file-utils dpkg-dev
   clang libclang-rt-14-dev
 )
 missing=()
