@@ -45,11 +45,12 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT ${VENTRIX_PACKAGE_MAINTAINER})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "desktop companion for the X9-410 digital multimeter")
 set(CPACK_PACKAGE_DESCRIPTION
-  "Ventrix reads the X9-410 multimeter over its RS-232 link and shows each reading as a\n\
-virtual LCD with its annunciators, a needle on an analogue dial and a running graph. It logs\n\
-up to 432,000 samples, saves the log as text, graph files and spreadsheets, and prints the\n\
-graph. The package also holds ventrix-cli, a virtual meter on a pseudo-terminal and a decoder\n\
-for captured byte streams.")
+  "Ventrix reads the X9-410 multimeter over its RS-232 link and shows each\n\
+reading as a virtual LCD with its annunciators, a needle on an analogue dial\n\
+and a running graph. It logs up to 432,000 samples, saves the log as text,\n\
+graph files and spreadsheets, and prints the graph. The package also holds\n\
+ventrix-cli, a virtual meter on a pseudo-terminal and a decoder for captured\n\
+byte streams.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
