@@ -22,30 +22,11 @@
 #include "ui/WorkbookHandover.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QStatusBar>
 
 using namespace ventrix;
-
-namespace {
-// Where the help pages are: VENTRIX_HELP_DIR when set, else the installed share/ventrix/help
-// beside the program's bin directory, else the source tree's help/ (a program run from its build
-// directory).
-QString HelpDirectory()
-{
-    const QString chosen = qEnvironmentVariable("VENTRIX_HELP_DIR");
-    if (!chosen.isEmpty())
-        return chosen;
-    const QString installed
-        = QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/ventrix/help"));
-    if (QFileInfo::exists(installed + QStringLiteral("/contents.txt")))
-        return installed;
-    return QString::fromUtf8(VENTRIX_SOURCE_HELP_DIR);
-}
-} // namespace
 
 // The composition root: builds the adapters, the window and the form, runs start-up, and hands
 // control to the event loop.
@@ -97,7 +78,7 @@ int main(int argc, char** argv)
     window.WatchState(state);
     form.SetOnFrameAccepted([&window] { window.FrameArrived(); });
     shell.SetOnEnd([&window] { window.CloseWithoutAsking(); });
-    ui::HelpWindow help(HelpDirectory());
+    ui::HelpWindow help(QString::fromStdString(paths.HelpDirectory().string()));
     shell.SetOnHelp([&help](platform::HelpView view) { help.Show(view); });
 
     form.Form_Load();
