@@ -3,18 +3,29 @@
 #include <fstream>
 #include <string>
 
-// The resident set of this process in kB, from /proc/self/status (0 where there is none).
-inline long ResidentKb()
+// A "kB" line of /proc/self/status ("VmRSS:", "VmHWM:"), 0 where there is none.
+inline long StatusKb(const std::string& field)
 {
     std::ifstream status("/proc/self/status");
     std::string key;
     long value = 0;
     while (status >> key) {
-        if (key == "VmRSS:") {
+        if (key == field) {
             status >> value;
             return value;
         }
         status.ignore(1 << 10, '\n');
     }
     return 0;
+}
+
+// The resident set of this process in kB.
+inline long ResidentKb()
+{
+    return StatusKb("VmRSS:");
+}
+// The largest resident set of this process so far, in kB.
+inline long PeakResidentKb()
+{
+    return StatusKb("VmHWM:");
 }

@@ -17,39 +17,23 @@ namespace {
 
 constexpr char kMagic[4] = { 'V', 'X', 'J', '1' };
 
-// A file opened with POSIX calls so that it can be synced; closed on every path.
-class PosixFile {
-public:
-    PosixFile(const std::filesystem::path& path, int flags)
-        : m_fd(::open(path.c_str(), flags | O_CLOEXEC, 0644))
-    {
+bool WriteAll(int fd, const void* data, std::size_t size)
+{
+    const char* bytes = static_cast<const char*>(data);
+    while (size > 0) {
+        const ssize_t written = ::write(fd, bytes, size);
+        if (written <= 0)
+            return false;
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
     }
-    ~PosixFile()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    PosixFile(const PosixFile&) = delete;
-    PosixFile& operator=(const PosixFile&) = delete;
+    return true;
+}
 
-    bool IsOpen() const { return m_fd >= 0; }
-    bool Write(const void* data, std::size_t size)
-    {
-        const char* bytes = static_cast<const char*>(data);
-        while (size > 0) {
-            const ssize_t written = ::write(m_fd, bytes, size);
-            if (written <= 0)
-                return false;
-            bytes += written;
-            size -= static_cast<std::size_t>(written);
-        }
-        return true;
-    }
-    bool Sync() { return ::fdatasync(m_fd) == 0; }
-
-private:
-    int m_fd;
-};
+int OpenFile(const std::filesystem::path& path, int flags)
+{
+    return ::open(path.c_str(), flags | O_CLOEXEC, 0644);
+}
 
 } // namespace
 
@@ -58,15 +42,30 @@ SampleJournal::SampleJournal(std::filesystem::path file)
 {
 }
 
+SampleJournal::~SampleJournal()
+{
+    Close();
+}
+
+void SampleJournal::Close()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+    m_fd = -1;
+}
+
 bool SampleJournal::StartPage(int swapPages, const std::filesystem::path& swapFileToSync)
 {
     if (!swapFileToSync.empty()) {
-        PosixFile swap(swapFileToSync, O_RDWR);
-        if (swap.IsOpen())
-            swap.Sync();
+        const int swap = OpenFile(swapFileToSync, O_RDWR);
+        if (swap >= 0) {
+            ::fdatasync(swap);
+            ::close(swap);
+        }
     }
-    PosixFile journal(m_file, O_WRONLY | O_CREAT | O_TRUNC);
-    if (!journal.IsOpen())
+    Close();
+    m_fd = OpenFile(m_file, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND);
+    if (m_fd < 0)
         return false;
     unsigned char header[kHeaderBytes];
     std::memcpy(header, kMagic, sizeof kMagic);
@@ -74,18 +73,30 @@ bool SampleJournal::StartPage(int swapPages, const std::filesystem::path& swapFi
     for (int i = 0; i < 4; ++i)
         header[4 + i] = static_cast<unsigned char>(pages >> (8 * i));
     m_lastSync = std::chrono::steady_clock::now();
-    return journal.Write(header, sizeof header) && journal.Sync();
+    return WriteAll(m_fd, header, sizeof header) && ::fdatasync(m_fd) == 0;
 }
 
 bool SampleJournal::Append(const SampleRecord& record)
 {
-    PosixFile journal(m_file, O_WRONLY | O_APPEND);
-    if (!journal.IsOpen() || !journal.Write(record.data(), record.size()))
+    // The file stays open between records: opening it for each one cost more than the rest of a
+    // sample together.
+    if (m_fd < 0)
+        m_fd = OpenFile(m_file, O_WRONLY | O_APPEND);
+    if (m_fd < 0)
         return false;
+    if (!WriteAll(m_fd, record.data(), record.size())) {
+        // A record cut short (a full disk) is taken back, so that later records stay whole.
+        const off_t end = ::lseek(m_fd, 0, SEEK_END);
+        if (end > 0) {
+            [[maybe_unused]] const int cut = ::ftruncate(m_fd, end - end % static_cast<off_t>(record.size()));
+        }
+        Close();
+        return false;
+    }
     const auto now = std::chrono::steady_clock::now();
     if (now - m_lastSync >= kSyncSeconds) {
         m_lastSync = now;
-        journal.Sync();
+        ::fdatasync(m_fd);
     }
     return true;
 }

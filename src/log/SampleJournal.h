@@ -24,6 +24,9 @@ public:
     static constexpr std::size_t kHeaderBytes = 8;
 
     explicit SampleJournal(std::filesystem::path file);
+    ~SampleJournal();
+    SampleJournal(const SampleJournal&) = delete;
+    SampleJournal& operator=(const SampleJournal&) = delete;
 
     // A new, empty memory page after `swapPages` full pages (start-up, a page flush, a clear). The
     // swap file, when given, is synced first, so the journal never counts a page the disk lacks.
@@ -54,7 +57,10 @@ public:
         const std::filesystem::path& swapFile, const std::filesystem::path& journalFile);
 
 private:
+    void Close();
+
     std::filesystem::path m_file;
+    int m_fd = -1; // the journal, open from the start of a page on
     std::chrono::steady_clock::time_point m_lastSync {};
 };
 
