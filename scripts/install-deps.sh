@@ -5,7 +5,7 @@ packages=(
   cmake ninja-build g++ pkgconf
   qtbase5-dev libqt5serialport5-dev libqwt-qt5-dev libxlsxwriter-dev
   libgtest-dev libbenchmark-dev nlohmann-json3-dev
-  socat xvfb xauth fonts-dseg poppler-utils python3-openpyxl desktop-file-utils dpkg-dev
+  socat xvfb xauth fonts-dseg poppler-utils python3-openpyxl desktop-file-utils dpkg-dev time
   clang libclang-rt-14-dev
 )
 missing=()
