@@ -170,7 +170,9 @@ void LogSession::ShowProgress()
     // The time left as the memory bar says it (" 5 Hrs 30 Mins" has a leading blank there).
     std::string left = m_controls.MEMORY_BAR.Caption();
     left.erase(0, left.find_first_not_of(' '));
-    std::fprintf(stderr, "\r%lld samples logged, %s left\033[K", SampleCount(), left.c_str());
+    const long long count = SampleCount();
+    std::fprintf(
+        stderr, "\r%lld %s logged, %s left\033[K", count, count == 1 ? "sample" : "samples", left.c_str());
     std::fflush(stderr);
     m_progressShown = true;
 }
