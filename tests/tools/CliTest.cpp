@@ -49,8 +49,8 @@ TEST(Cli, BadInputGivesOneLineOnStderrAndStatus2)
     } cases[] = {
         { { "decode", dir.filePath("missing.bin") }, "cannot read" },
         { { "decode", dir.path() }, "is a directory" },
-        { { "meter", "--frames" }, "needs a value" },
-        { { "meter", "--loud" }, "unknown option" },
+        { { "meter", "--frames" }, "Missing value" },
+        { { "meter", "--loud" }, "Unknown option" },
     };
     for (const auto& c : cases) {
         const Result r = RunCli(c.arguments);

@@ -4,6 +4,7 @@
 #include "files/SpreadsheetTable.h"
 #include "io/XlsxSpreadsheet.h"
 #include "link/FrameDecoder.h"
+#include "ventrix-cli/CommandLine.h"
 #include "ventrix-cli/InputFile.h"
 
 #include <cerrno>
@@ -23,21 +24,23 @@ namespace {
 
 constexpr std::size_t kRecordBytes = sizeof(state::SampleRecord);
 
-const char kHelp[]
-    = "usage: ventrix-cli convert FILE [--text OUT] [--xlsx OUT]\n"
-      "\n"
-      "Turns a file of 8-byte sample records into the program's own formats: the swap file\n"
+const char kDescription[]
+    = "Turns a file of 8-byte sample records into the program's own formats: the swap file\n"
       "BUFFER.SWP (to rescue the pages of a log after the program was closed without saving) or\n"
       "a *.gph graph file. FILE \"-\" reads standard input.\n"
       "\n"
       "  (no option)  one line per record on standard output: time, eight spaces, value, unit\n"
       "  --text OUT   the text file the program's \"Save\" writes for these records (CR LF lines)\n"
-      "  --xlsx OUT   the workbook the program's \"Export to Excel\" writes for these records\n"
-      "\n"
-      "A trailing piece shorter than 8 bytes is ignored with a warning. A record that cannot be\n"
+      "  --xlsx OUT   the workbook the program's \"Export to Excel\" writes for these records";
+
+const char kEpilogue[]
+    = "A trailing piece shorter than 8 bytes is ignored with a warning. A record that cannot be\n"
       "formatted (a word index beyond the word table) stops every output there, as in the\n"
       "program; its number is named on standard error and the exit status is 1. An unreadable\n"
-      "FILE or an output that cannot be written: a one-line error and exit status 2.\n";
+      "FILE or an output that cannot be written: a one-line error and exit status 2.\n"
+      "\n"
+      "Example:\n"
+      "  ventrix-cli convert ~/.local/share/Ventrix/BUFFER.SWP --text rescued.txt\n";
 
 int Fail(const std::string& message)
 {
@@ -57,38 +60,36 @@ struct Output {
 
 int RunConvert(int argc, char** argv)
 {
-    std::optional<std::string> input;
+    CommandLine args(
+        QStringLiteral("convert"), QString::fromUtf8(kDescription), QString::fromUtf8(kEpilogue));
+    args.AddPositional(QStringLiteral("FILE"), QStringLiteral("The sample records (- for standard input)."));
+    args.AddOption(
+        { QStringLiteral("text"), QStringLiteral("Write the program's text file."), QStringLiteral("OUT") });
+    args.AddOption(
+        { QStringLiteral("xlsx"), QStringLiteral("Write the program's workbook."), QStringLiteral("OUT") });
+    if (const auto status = args.Parse(argc, argv))
+        return *status;
+    const QStringList positionals = args.Positionals();
+    if (positionals.isEmpty())
+        return Fail("expected a FILE (see --help)");
+    if (positionals.size() > 1)
+        return Fail("expected one FILE");
+    const std::string input = positionals.first().toStdString();
     std::optional<std::string> textPath;
     std::optional<std::string> xlsxPath;
-    for (int i = 0; i < argc; ++i) {
-        const std::string arg = argv[i];
-        if (arg == "--help" || arg == "-h") {
-            std::fputs(kHelp, stdout);
-            return 0;
-        }
-        if (arg == "--text" || arg == "--xlsx") {
-            if (i + 1 >= argc)
-                return Fail(arg + " needs a value");
-            (arg == "--text" ? textPath : xlsxPath) = argv[++i];
-        } else if (arg.size() > 1 && arg[0] == '-') {
-            return Fail("unknown option " + arg);
-        } else if (input) {
-            return Fail("expected one FILE");
-        } else {
-            input = arg;
-        }
-    }
-    if (!input)
-        return Fail("expected a FILE (see --help)");
+    if (args.IsSet(QStringLiteral("text")))
+        textPath = args.Value(QStringLiteral("text")).toStdString();
+    if (args.IsSet(QStringLiteral("xlsx")))
+        xlsxPath = args.Value(QStringLiteral("xlsx")).toStdString();
 
     std::string bytes;
     std::string error;
-    if (!ReadInputFile(*input, bytes, error))
+    if (!ReadInputFile(input, bytes, error))
         return Fail(error);
     if (const std::size_t rest = bytes.size() % kRecordBytes; rest != 0)
         std::fprintf(stderr,
             "ventrix-cli convert: warning: %s ends in %zu bytes that are not a whole record; ignored\n",
-            input->c_str(), rest);
+            input.c_str(), rest);
 
     const std::array<std::string, 15>& words = link::kSpecialWordTable;
     std::vector<Output> outputs;

@@ -2,6 +2,7 @@
 
 #include "link/CaptureReplay.h"
 #include "ventrix-cli/CaptureJson.h"
+#include "ventrix-cli/CommandLine.h"
 #include "ventrix-cli/InputFile.h"
 
 #include <cerrno>
@@ -11,24 +12,27 @@
 
 namespace ventrix::cli {
 
-namespace {
-
-int Fail(const std::string& message)
-{
-    std::fprintf(stderr, "ventrix-cli decode: %s\n", message.c_str());
-    return 2;
-}
-
-} // namespace
-
 int RunDecode(int argc, char** argv)
 {
-    if (argc > 1)
-        return Fail("expected at most one FILE");
+    CommandLine args(QStringLiteral("decode"),
+        QStringLiteral(
+            "Runs a captured byte stream through exactly the program's receive path and decoder\n"
+            "and prints one JSON object per line for every accepted frame: its offset, the mode\n"
+            "byte, the decoded reading (null for an absent word), whether it was refused (relative\n"
+            "mode while an absolute reading is awaited) or would be logged, and the virtual LCD\n"
+            "after it. Unreadable input: a one-line error and exit status 2."),
+        QStringLiteral("Example:\n  ventrix-cli decode capture.bin | head\n"));
+    args.AddPositional(QStringLiteral("FILE"),
+        QStringLiteral("The capture (standard input when absent or -)."), QStringLiteral("[FILE]"));
+    if (const auto status = args.Parse(argc, argv))
+        return *status;
+    const QStringList files = args.Positionals();
+    if (files.size() > 1)
+        return args.Fail("expected at most one FILE");
     std::string bytes;
     std::string error;
-    if (!ReadInputFile(argc == 1 ? argv[0] : "-", bytes, error))
-        return Fail(error);
+    if (!ReadInputFile(files.isEmpty() ? std::string("-") : files.first().toStdString(), bytes, error))
+        return args.Fail(error);
 
     link::CaptureReplay replay;
     replay.Run(bytes, [](const link::CaptureReplay::Frame& frame) {
@@ -37,7 +41,7 @@ int RunDecode(int argc, char** argv)
         std::fputc('\n', stdout);
     });
     if (std::fflush(stdout) != 0)
-        return Fail(std::string("cannot write: ") + std::strerror(errno));
+        return args.Fail(std::string("cannot write: ") + std::strerror(errno));
     return 0;
 }
 

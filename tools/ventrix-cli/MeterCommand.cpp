@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "ventrix-cli/CommandLine.h"
 #include "ventrix-cli/DemoScenario.h"
 #include "ventrix-cli/FrameEncoder.h"
 
@@ -97,25 +98,33 @@ std::vector<std::string> DemoFrames(std::string& error)
 
 int RunMeter(int argc, char** argv)
 {
+    CommandLine args(QStringLiteral("meter"),
+        QStringLiteral("A virtual X9-410 on a pseudo-terminal. Prints the device path on the first line,\n"
+                       "then sends frames at the meter's pace, each byte paced as at 4800 baud, until\n"
+                       "Ctrl-C: a demonstration that walks through every function, prefix, word and\n"
+                       "annunciator, or the raw bytes of a capture file (repeated)."),
+        QStringLiteral("Example:\n"
+                       "  ventrix-cli meter &        # prints e.g. /dev/pts/3\n"
+                       "  VENTRIX_COM1=/dev/pts/3 ventrix\n"));
+    args.AddOption({ QStringLiteral("frames"), QStringLiteral("Send the raw bytes of this capture instead."),
+        QStringLiteral("FILE") });
+    args.AddOption({ QStringLiteral("rate"),
+        QStringLiteral("Frames per second, above 0 and up to 100 (2.5)."), QStringLiteral("N") });
+    if (const auto status = args.Parse(argc, argv))
+        return *status;
+    if (!args.Positionals().isEmpty())
+        return args.Fail("unexpected argument " + args.Positionals().first().toStdString());
     double rate = 2.5;
-    const char* framesPath = nullptr;
-    for (int i = 0; i < argc; ++i) {
-        const std::string arg = argv[i];
-        if ((arg == "--rate" || arg == "--frames") && i + 1 >= argc)
-            return Fail(arg + " needs a value");
-        if (arg == "--rate") {
-            char* end = nullptr;
-            rate = std::strtod(argv[++i], &end);
-            if (end == argv[i] || *end != '\0' || !(rate > 0 && rate <= 100))
-                return Fail(
-                    std::string("--rate must be a number of frames per second above 0 and up to 100, not ")
-                    + argv[i]);
-        } else if (arg == "--frames") {
-            framesPath = argv[++i];
-        } else {
-            return Fail("unknown option " + arg);
-        }
+    if (args.IsSet(QStringLiteral("rate"))) {
+        const std::string text = args.Value(QStringLiteral("rate")).toStdString();
+        char* end = nullptr;
+        rate = std::strtod(text.c_str(), &end);
+        if (end == text.c_str() || *end != '\0' || !(rate > 0 && rate <= 100))
+            return args.Fail(
+                "--rate must be a number of frames per second above 0 and up to 100, not " + text);
     }
+    const std::string framesFile = args.Value(QStringLiteral("frames")).toStdString();
+    const char* framesPath = args.IsSet(QStringLiteral("frames")) ? framesFile.c_str() : nullptr;
 
     // What to send, one piece per frame period.
     std::vector<std::string> pieces;
