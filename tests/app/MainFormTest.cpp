@@ -119,7 +119,7 @@ TEST_F(MainFormTest, MenusReachTheirHandlersAndTheChoicesOutliveTheRun)
     form.Form_Load();
     rig.controls.COM_ITEMS[3].Click();
     rig.controls.SEC_ITEMS[1].Click();
-    EXPECT_EQ(rig.controls.MEMORY_BAR.Caption(), "10 Days 0 Hr 0 Min");
+    EXPECT_EQ(rig.controls.MEMORY_BAR.Caption(), "10 Days 0 Hr 0 Min") << "a rate change redraws the gauge";
     rig.dialogs.answers.push_back(platform::MessageResult::Yes);
     rig.controls.CMD_EXIT.Click();
     EXPECT_EQ(ReadBytes(rig.paths.SettingsFile()), (Bytes { 4, 2, 0, 0, 0, 0, 1 }));
