@@ -48,8 +48,7 @@ struct SettingsTest : ::testing::Test {
     }
 
     fakes::TestRig rig;
-    int gaugeUpdates = 0;
-    Settings settings { rig.state, rig.controls, rig.graph, rig.paths, [this] { ++gaugeUpdates; } };
+    Settings settings { rig.state, rig.controls, rig.graph, rig.paths, [] {} };
 };
 
 TEST_F(SettingsTest, LoadThenSave)
@@ -142,7 +141,6 @@ TEST_F(SettingsTest, MenuGroupsKeepOneCheckMark)
     settings.SelectComPort(3);
     settings.SelectSampleRate(30);
     EXPECT_EQ(Current(), (Applied { 3, 30, 0, 1, 0, 0, 1 }));
-    EXPECT_EQ(gaugeUpdates, 1) << "a rate change redraws the memory gauge";
 }
 
 } // namespace

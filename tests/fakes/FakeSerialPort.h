@@ -21,7 +21,7 @@ public:
     bool Open() override;
     void Close() override;
 
-    void SetInputLen(int length) override { inputLen_ = length; }
+    void SetInputLen(int) override { }
     void SetRThreshold(int count) override;
     int RThreshold() const override { return threshold_; }
     int InBufferCount() const override { return static_cast<int>(buffer_.size()); }
@@ -39,7 +39,6 @@ public:
     int openCount = 0;
     int closeCount = 0;
     int discardCount = 0;
-    int inputLen_ = -1;
     std::string thresholdHistory; // one char per threshold write: '9', 'A' for 10, 'I' for 18 ...
 
 private:

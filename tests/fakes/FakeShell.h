@@ -7,8 +7,8 @@
 
 namespace ventrix::fakes {
 
-// Records the busy-pointer changes, the progress shown while busy, whether the program was ended
-// and each help view opened.
+// Records the busy-pointer changes, the progress shown while busy and whether the program was
+// ended; help is not shown.
 class FakeShell : public platform::Shell {
 public:
     void SetBusyPointer(bool busy) override { pointerHistory.push_back(busy); }
@@ -17,7 +17,7 @@ public:
         progress.push_back({ done, total, Busy() });
     }
     void EndProgram() override { ++endCount; }
-    void ShowHelp(platform::HelpView view) override { helpViews.push_back(view); }
+    void ShowHelp(platform::HelpView) override { }
 
     bool Busy() const { return !pointerHistory.empty() && pointerHistory.back(); }
 
@@ -29,7 +29,6 @@ public:
     std::vector<bool> pointerHistory;
     std::vector<Progress> progress;
     int endCount = 0;
-    std::vector<platform::HelpView> helpViews;
 };
 
 } // namespace ventrix::fakes

@@ -13,7 +13,7 @@ namespace ventrix::fakes {
 // write after that many succeed fail, as when the user closes the workbook during an export.
 class FakeSpreadsheet : public platform::Spreadsheet {
 public:
-    bool Create() override { return created = !failCreate; }
+    bool Create() override { return !failCreate; }
     bool SetStandardWidth(double width) override
     {
         standardWidth = width;
@@ -37,7 +37,6 @@ public:
 
     bool failCreate = false;
     int failAfterCells = -1;
-    bool created = false;
     int releases = 0;
     double standardWidth = 0.0;
     std::map<std::string, std::string> cells;

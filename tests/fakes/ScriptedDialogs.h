@@ -26,7 +26,7 @@ public:
     std::optional<std::string> ShowOpen(const platform::FileDialogRequest& request) override;
     std::optional<std::string> ShowSave(const platform::FileDialogRequest& request) override;
     std::optional<platform::PrintDialogResult> ShowPrint(int flags) override;
-    void ShowAbout() override { ++aboutCount; }
+    void ShowAbout() override { }
 
     std::deque<platform::MessageResult> answers;
     std::deque<std::optional<std::string>> fileAnswers;
@@ -36,7 +36,6 @@ public:
     std::vector<platform::FileDialogRequest> openRequests;
     std::vector<platform::FileDialogRequest> saveRequests;
     std::vector<int> printRequests;
-    int aboutCount = 0;
 };
 
 } // namespace ventrix::fakes

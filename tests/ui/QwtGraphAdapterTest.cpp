@@ -222,9 +222,12 @@ TEST(QwtGraphAdapterTest, ZoomPanAndWheelChangeTheRangesReadBack)
     QwtGraphAdapter graph;
     graph.resize(600, 400);
     graph.show();
-    graph.SetView(GraphAxis::XAxis, 0.0, 100.0);
-    graph.SetView(GraphAxis::YAxis1, 0.0, 10.0);
-    graph.Redraw();
+    const auto reset = [&] {
+        graph.SetView(GraphAxis::XAxis, 0.0, 100.0);
+        graph.SetView(GraphAxis::YAxis1, 0.0, 10.0);
+        graph.Redraw();
+    };
+    reset();
     QWidget* canvas = graph.canvas();
     const QwtScaleMap x = graph.canvasMap(QwtPlot::xBottom);
     const QwtScaleMap y = graph.canvasMap(QwtPlot::yLeft);
@@ -240,17 +243,13 @@ TEST(QwtGraphAdapterTest, ZoomPanAndWheelChangeTheRangesReadBack)
     EXPECT_NEAR(graph.AxisMinimum(GraphAxis::YAxis1), 2.0, pixel);
     EXPECT_NEAR(graph.AxisMaximum(GraphAxis::YAxis1), 8.0, pixel);
 
-    graph.SetView(GraphAxis::XAxis, 0.0, 100.0);
-    graph.SetView(GraphAxis::YAxis1, 0.0, 10.0);
-    graph.Redraw();
+    reset();
     graph.SetTrackingMode(3);
     Drag(canvas, at(50, 5), at(40, 4));
     EXPECT_NEAR(graph.AxisMinimum(GraphAxis::XAxis), 10.0, pixel);
     EXPECT_NEAR(graph.AxisMaximum(GraphAxis::YAxis1), 11.0, pixel);
 
-    graph.SetView(GraphAxis::XAxis, 0.0, 100.0);
-    graph.SetView(GraphAxis::YAxis1, 0.0, 10.0);
-    graph.Redraw();
+    reset();
     graph.SetTrackingMode(2); // the wheel zooms in every mode, around the pointer
     QWheelEvent wheel(QPointF(at(25, 5)), canvas->mapToGlobal(at(25, 5)), QPoint(), QPoint(0, 120),
         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);

@@ -166,18 +166,12 @@ TEST(WindowLayoutTest, TheReadingFadesWhenStoppedOrSilent)
 
 TEST(WindowLayoutTest, ThePortTellsItsDevicePlainly)
 {
-    const struct {
-        int number;
-        const char* device;
-        const char* expected;
-    } cases[] = {
-        { 1, "/dev/pts/4", "COM 1: virtual meter on /dev/pts/4" },
-        { 2, "/dev/ttyUSB0", "COM 2: /dev/ttyUSB0" },
-        { 3, "", "COM 3: no serial device" },
+    const auto describe = [](int number, const char* device) {
+        return MeterStatus::DescribePort(number, QString::fromLatin1(device)).toStdString();
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(
-            MeterStatus::DescribePort(c.number, QString::fromLatin1(c.device)).toStdString(), c.expected);
+    EXPECT_EQ(describe(1, "/dev/pts/4"), "COM 1: virtual meter on /dev/pts/4");
+    EXPECT_EQ(describe(2, "/dev/ttyUSB0"), "COM 2: /dev/ttyUSB0");
+    EXPECT_EQ(describe(3, ""), "COM 3: no serial device");
 }
 
 // Every command can be reached without the mouse: menus by their letters, commands by their
