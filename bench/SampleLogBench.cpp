@@ -4,8 +4,7 @@
 // swap file byte count and decodes every record back to the reading that was logged.
 
 #include "ResidentMemory.h"
-#include "app/MainForm.h"
-#include "fakes/TestRig.h"
+#include "fakes/AcquiringRig.h"
 #include "log/SampleRecord.h"
 #include "log/SwapFile.h"
 
@@ -23,23 +22,7 @@ namespace {
 
 constexpr int kFullLog = 432000;
 
-// The form on fakes, acquiring a reading in volts with three decimals.
-struct Acquiring {
-    Acquiring()
-    {
-        form.Form_Load();
-        form.Link().StartAcquisition();
-        state::AppState& s = rig.state;
-        s.AwaitingAbsoluteReading = false;
-        s.FunctionKind = 0;
-        s.UnitLabel = "V";
-        s.BaseUnit = "V";
-        s.CountValue = 1234;
-        s.DecimalDivisor = 1000;
-    }
-    fakes::TestRig rig;
-    app::MainForm form { rig.state, rig.controls, rig.services };
-};
+using Acquiring = fakes::AcquiringRig;
 
 // The whole log through SAMPLE_TIMER ticks one second apart with a new frame each time, starting
 // at 10 PM so that it crosses five midnights. The reading changes with every sample so that each

@@ -1,5 +1,4 @@
-#include "app/MainForm.h"
-#include "fakes/TestRig.h"
+#include "fakes/AcquiringRig.h"
 #include "log/SampleRecord.h"
 #include "log/SwapFile.h"
 
@@ -10,20 +9,7 @@
 namespace ventrix::log {
 namespace {
 
-// The form on fakes, acquiring a steady 1.234 V reading.
-struct Logging : ::testing::Test {
-    Logging()
-    {
-        form.Form_Load();
-        form.Link().StartAcquisition();
-        state::AppState& s = rig.state;
-        s.AwaitingAbsoluteReading = false;
-        s.FunctionKind = 0;
-        s.UnitLabel = "V";
-        s.BaseUnit = "V";
-        s.CountValue = 1234;
-        s.DecimalDivisor = 1000;
-    }
+struct Logging : ::testing::Test, fakes::AcquiringRig {
     // One tick of SAMPLE_TIMER at the given time, with a new frame unless told otherwise.
     void Tick(int h, int m, double sec, bool frame = true)
     {
@@ -37,9 +23,6 @@ struct Logging : ::testing::Test {
         return static_cast<int>(std::count(
             rig.controls.DATA_LOG_TXT.Text().begin(), rig.controls.DATA_LOG_TXT.Text().end(), '\n'));
     }
-
-    fakes::TestRig rig;
-    app::MainForm form { rig.state, rig.controls, rig.services };
 };
 
 TEST_F(Logging, DriftCorrectionKeepsSamplesOnTheirDueSeconds)
