@@ -6,6 +6,10 @@
 #include "io/QtTimer.h"
 #include "io/SystemClock.h"
 #include "io/XlsxSpreadsheet.h"
+#include "platform/HeadlessGraph.h"
+#include "platform/HeadlessKnob.h"
+#include "platform/HeadlessPrintSurface.h"
+#include "platform/IdleTimer.h"
 #include "platform/MainControls.h"
 #include "platform/Services.h"
 #include "platform/UnavailablePrinter.h"
@@ -13,10 +17,6 @@
 #include "ventrix-cli/ConsoleDialogs.h"
 #include "ventrix-cli/ConsoleShell.h"
 #include "ventrix-cli/DirectoryPaths.h"
-#include "ventrix-cli/HeadlessGraph.h"
-#include "ventrix-cli/HeadlessKnob.h"
-#include "ventrix-cli/HeadlessPrintSurface.h"
-#include "ventrix-cli/IdleTimer.h"
 #include "ventrix-cli/TickObserver.h"
 
 #include <QElapsedTimer>
@@ -76,19 +76,19 @@ private:
     io::QtTimer m_unlinkTimer { m_gate, QStringLiteral("UNLINK_TIMER") };
     io::QtTimer m_sampleTimer { m_gate, QStringLiteral("SAMPLE_TIMER") };
     TickObserver m_observedSampleTimer { m_sampleTimer, [this] { AfterSampleTick(); } };
-    IdleTimer m_analogTimer;
+    platform::IdleTimer m_analogTimer;
     io::QtTimer m_debugTimer { m_gate, QStringLiteral("DEBUG_TIMER") };
     io::SystemClock m_clock;
     ConsoleDialogs m_dialogs { [this](const std::string& text, platform::MessageButtons buttons) {
         OnMessage(text, buttons);
     } };
-    HeadlessGraph m_graph;
-    HeadlessKnob m_knob;
+    platform::HeadlessGraph m_graph;
+    platform::HeadlessKnob m_knob;
     io::XlsxSpreadsheet m_workbook;
     platform::UnavailablePrinter m_printer;
     DirectoryPaths m_paths;
     ConsoleShell m_shell;
-    HeadlessPrintSurface m_graphPrint;
+    platform::HeadlessPrintSurface m_graphPrint;
     platform::Services m_services;
     app::MainForm m_form;
 

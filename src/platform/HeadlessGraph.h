@@ -5,13 +5,13 @@
 #include <array>
 #include <string>
 
-namespace ventrix::cli {
+namespace ventrix::platform {
 
 // The graph of a program without a window: it keeps the settings the handlers write and read
 // back (appearance, axis captions and ranges, scaling flags, tracking mode, cursors) and drops
 // every point, so a log of days costs no memory here. Automatic scaling has no data to fit and
 // leaves the ranges as they were written; cursors never move by themselves.
-class HeadlessGraph : public platform::GraphControl {
+class HeadlessGraph : public GraphControl {
 public:
     void SetLineWidth(int width) override { m_lineWidth = width; }
     int LineWidth() const override { return m_lineWidth; }
@@ -21,23 +21,20 @@ public:
     int PointStyle() const override { return m_pointStyle; }
     void SetFillToBase(bool on) override { m_fill = on; }
     bool FillToBase() const override { return m_fill; }
-    void SetMajorGrid(platform::GraphAxis axis, bool on) override { At(axis).grid = on; }
-    bool MajorGrid(platform::GraphAxis axis) const override { return At(axis).grid; }
+    void SetMajorGrid(GraphAxis axis, bool on) override { At(axis).grid = on; }
+    bool MajorGrid(GraphAxis axis) const override { return At(axis).grid; }
 
     void ClearData() override { }
     void AppendPoint(double) override { }
-    void SetAxisCaption(platform::GraphAxis axis, const std::string& caption) override
-    {
-        At(axis).caption = caption;
-    }
-    std::string AxisCaption(platform::GraphAxis axis) const override { return At(axis).caption; }
-    void SetAxisMinimum(platform::GraphAxis axis, double value) override;
-    double AxisMinimum(platform::GraphAxis axis) const override { return At(axis).minimum; }
-    void SetAxisMaximum(platform::GraphAxis axis, double value) override;
-    double AxisMaximum(platform::GraphAxis axis) const override { return At(axis).maximum; }
-    void SetAutoScale(platform::GraphAxis axis, bool on) override { At(axis).autoScale = on; }
-    bool AutoScale(platform::GraphAxis axis) const override { return At(axis).autoScale; }
-    void AutoScaleNow(platform::GraphAxis) override { }
+    void SetAxisCaption(GraphAxis axis, const std::string& caption) override { At(axis).caption = caption; }
+    std::string AxisCaption(GraphAxis axis) const override { return At(axis).caption; }
+    void SetAxisMinimum(GraphAxis axis, double value) override;
+    double AxisMinimum(GraphAxis axis) const override { return At(axis).minimum; }
+    void SetAxisMaximum(GraphAxis axis, double value) override;
+    double AxisMaximum(GraphAxis axis) const override { return At(axis).maximum; }
+    void SetAutoScale(GraphAxis axis, bool on) override { At(axis).autoScale = on; }
+    bool AutoScale(GraphAxis axis) const override { return At(axis).autoScale; }
+    void AutoScaleNow(GraphAxis) override { }
     void Redraw() override { }
 
     void SetTrackingMode(int mode) override { m_trackingMode = mode; }
@@ -64,11 +61,8 @@ private:
         int mode = 0;
         bool visible = false;
     };
-    Axis& At(platform::GraphAxis axis) { return m_axes[axis == platform::GraphAxis::XAxis ? 0 : 1]; }
-    const Axis& At(platform::GraphAxis axis) const
-    {
-        return m_axes[axis == platform::GraphAxis::XAxis ? 0 : 1];
-    }
+    Axis& At(GraphAxis axis) { return m_axes[axis == GraphAxis::XAxis ? 0 : 1]; }
+    const Axis& At(GraphAxis axis) const { return m_axes[axis == GraphAxis::XAxis ? 0 : 1]; }
     // Cursors 1 and 2; any other number shares the second.
     CursorState& Cursor(int cursor) { return m_cursors[cursor == 1 ? 0 : 1]; }
     const CursorState& Cursor(int cursor) const { return m_cursors[cursor == 1 ? 0 : 1]; }
@@ -82,4 +76,4 @@ private:
     bool m_fill = false;
 };
 
-} // namespace ventrix::cli
+} // namespace ventrix::platform

@@ -2,12 +2,12 @@
 
 #include "platform/Timer.h"
 
-namespace ventrix::cli {
+namespace ventrix::platform {
 
-// A form timer that keeps its interval and enabled state but never ticks. The command-line
-// logger gives it to the dial's needle animation, which has nothing to move without a window,
-// so a silent meter costs no wake-ups for it.
-class IdleTimer : public platform::Timer {
+// A form timer that keeps its interval and enabled state but never ticks: for a timer whose work
+// has nothing to act on (the dial's needle without a window, timers of a replayed stream), so it
+// costs no wake-ups.
+class IdleTimer : public Timer {
 public:
     void SetInterval(int milliseconds) override { m_interval = milliseconds; }
     int Interval() const override { return m_interval; }
@@ -20,4 +20,4 @@ private:
     bool m_enabled = false;
 };
 
-} // namespace ventrix::cli
+} // namespace ventrix::platform

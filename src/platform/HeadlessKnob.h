@@ -2,11 +2,11 @@
 
 #include "platform/KnobControl.h"
 
-namespace ventrix::cli {
+namespace ventrix::platform {
 
 // The dial of a program without a window: there is no needle to show, so it keeps nothing and
 // reads back 0 (the gauge then only writes its values again).
-class HeadlessKnob : public platform::KnobControl {
+class HeadlessKnob : public KnobControl {
 public:
     void SetVisible(bool) override { }
     bool Visible() const override { return false; }
@@ -18,4 +18,4 @@ public:
     void SetAxisMaximum(double) override { }
 };
 
-} // namespace ventrix::cli
+} // namespace ventrix::platform
