@@ -1,5 +1,4 @@
-#include "files/FilesTestRig.h"
-#include "io/XlsxSpreadsheet.h"
+#include "tools/ProgramFiles.h"
 
 #include <QProcess>
 #include <gtest/gtest.h>
@@ -41,13 +40,7 @@ TEST(ConvertCommand, SwapFileGivesTheProgramsTextFileAndWorkbook)
 {
     FilesTestRig t;
     t.Fill(2000);
-    t.rig.dialogs.fileAnswers.push_back(t.File("saved.txt").string());
-    t.c.Save_As.Click();
-    ventrix::io::XlsxSpreadsheet workbook([&] { return t.File("exported.xlsx"); });
-    const ventrix::platform::Services& s = t.rig.services;
-    ventrix::platform::Services services { s.MSComm1, s.timers, s.clock, s.dialogs, s.GRAPH_CWGraph,
-        s.KNOB_ANALOG, workbook, s.printer, s.paths, s.shell, s.graphPrint };
-    ventrix::files::SpreadsheetExport(t.s, services).ExportToSpreadsheet();
+    SaveAndExportAsTheProgramDoes(t, "saved.txt", "exported.xlsx");
 
     const Result r = Convert({ Q(t.rig.paths.SwapFile()), "--text", Q(t.File("converted.txt")), "--xlsx",
         Q(t.File("converted.xlsx")) });

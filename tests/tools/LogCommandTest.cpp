@@ -1,8 +1,7 @@
 // `ventrix-cli log` and `ventrix-cli recover` end to end: the virtual meter on a pseudo-terminal,
 // the real serial path and event loop, at a 1 s interval for a few samples.
-#include "files/FilesTestRig.h"
-#include "io/XlsxSpreadsheet.h"
 #include "log/SampleJournal.h"
+#include "tools/ProgramFiles.h"
 #include "ventrix-cli/Duration.h"
 #include "ventrix-cli/FrameEncoder.h"
 
@@ -131,13 +130,7 @@ TEST(LogCommand, ShortLogWritesWhatTheProgramWritesForItsRecords)
     ventrix::testing::FilesTestRig t;
     std::copy(journal->records.begin(), journal->records.end(), t.s.PageRecords.begin());
     t.s.PageFill = 4;
-    t.rig.dialogs.fileAnswers.push_back(t.File("saved.txt").string());
-    t.c.Save_As.Click();
-    ventrix::io::XlsxSpreadsheet workbook([&] { return t.File("exported.xlsx"); });
-    const ventrix::platform::Services& s = t.rig.services;
-    ventrix::platform::Services services { s.MSComm1, s.timers, s.clock, s.dialogs, s.GRAPH_CWGraph,
-        s.KNOB_ANALOG, workbook, s.printer, s.paths, s.shell, s.graphPrint };
-    ventrix::files::SpreadsheetExport(t.s, services).ExportToSpreadsheet();
+    ventrix::testing::SaveAndExportAsTheProgramDoes(t, "saved.txt", "exported.xlsx");
 
     const std::string text = ReadFile(d.File("log.txt"));
     EXPECT_EQ(text, ReadFile(t.File("saved.txt")));
