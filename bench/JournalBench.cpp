@@ -1,7 +1,8 @@
-// The crash journal's cost per sample: one record appended (open, write, close) as every sample
-// does, and the page start that truncates the journal and syncs it to disk (a sync also happens
-// at most every 5 s while appending). Run it on the file system the data directory lives on:
-// the journal goes to the directory in VENTRIX_BENCH_DIR, else the system's temporary directory.
+// The crash journal's cost per sample: one record appended (a write to the journal, which stays
+// open) as every sample does, and the page start that truncates the journal and syncs it to disk
+// (a sync also happens at most every 5 s while appending). Run it on the file system the data
+// directory lives on: the journal goes to the directory in VENTRIX_BENCH_DIR, else the system's
+// temporary directory.
 #include "log/SampleJournal.h"
 
 #include <benchmark/benchmark.h>
