@@ -4,6 +4,8 @@
 #include "files/SpreadsheetExport.h"
 #include "io/XlsxSpreadsheet.h"
 
+#include <QProcess>
+
 #include <string>
 
 namespace ventrix::testing {
@@ -20,6 +22,20 @@ inline void SaveAndExportAsTheProgramDoes(
     platform::Services services { s.MSComm1, s.timers, s.clock, s.dialogs, s.GRAPH_CWGraph, s.KNOB_ANALOG,
         sheet, s.printer, s.paths, s.shell, s.graphPrint };
     files::SpreadsheetExport(t.s, services).ExportToSpreadsheet();
+}
+
+// "True" when two workbooks hold the same sheet and formats, byte for byte; else what went wrong.
+inline std::string CompareWorkbookSheets(const std::filesystem::path& a, const std::filesystem::path& b)
+{
+    QProcess python;
+    python.start(QStringLiteral("/usr/bin/python3"),
+        { "-c",
+            "import sys, zipfile\n"
+            "a, b = (zipfile.ZipFile(p) for p in sys.argv[1:3])\n"
+            "print(all(a.read(p) == b.read(p) for p in ['xl/worksheets/sheet1.xml', 'xl/styles.xml']))\n",
+            QString::fromStdString(a.string()), QString::fromStdString(b.string()) });
+    python.waitForFinished(10000);
+    return (python.readAllStandardOutput().trimmed() + python.readAllStandardError()).toStdString();
 }
 
 } // namespace ventrix::testing
