@@ -142,11 +142,21 @@ int main(int argc, char** argv)
     clockWatch.start();
     qint64 longestGap = 0;
     qint64 lastProbe = 0;
+    long longStalls = 0; // gaps of more than 20 ms beyond the interval
+    long longStallsAtFlush = 0; // of those, seen just after a page went to the swap file
+    long long longestStallAt = 0;
     QTimer probe;
     probe.setTimerType(Qt::PreciseTimer);
     QObject::connect(&probe, &QTimer::timeout, [&] {
         const qint64 now = clockWatch.elapsed();
-        longestGap = std::max(longestGap, now - lastProbe);
+        if (now - lastProbe > longestGap) {
+            longestGap = now - lastProbe;
+            longestStallAt = Samples(state);
+        }
+        if (now - lastProbe > 25) {
+            ++longStalls;
+            longStallsAtFlush += state.PageFill <= 3 ? 1 : 0;
+        }
         lastProbe = now;
     });
     QTimer progress;
@@ -175,8 +185,10 @@ int main(int argc, char** argv)
     probe.stop();
     progress.stop();
     const double fillSeconds = clockWatch.elapsed() / 1000.0;
-    std::printf("      filled in %.1f s at a %d ms simulator interval; longest event-loop stall %lld ms\n",
-        fillSeconds, intervalMs, std::max<qint64>(0, longestGap - 5));
+    std::printf("      filled in %.1f s at a %d ms simulator interval; longest event-loop stall %lld ms (at "
+                "sample %lld); %ld stalls over 20 ms, %ld of them right after a page flush\n",
+        fillSeconds, intervalMs, std::max<qint64>(0, longestGap - 5), longestStallAt, longStalls,
+        longStallsAtFlush);
 
     // The simulator stopped itself; nothing more is logged.
     QElapsedTimer settle;
