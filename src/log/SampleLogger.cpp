@@ -28,7 +28,7 @@ SampleLogger::SampleLogger(state::AppState& state, platform::MainControls& contr
     , m_memory(memory)
     , m_link(link)
     , m_plotSample(std::move(plotSample))
-    , m_journal(services.paths.ProgramDirectory() / "BUFFER.JNL")
+    , m_journal(services.paths.JournalFile())
 {
 }
 

@@ -17,6 +17,8 @@ public:
 
     std::filesystem::path SettingsFile() const { return ProgramDirectory() / "DEFAULT.CFG"; }
     std::filesystem::path SwapFile() const { return ProgramDirectory() / "BUFFER.SWP"; }
+    // The crash journal of the memory page, beside the swap file.
+    std::filesystem::path JournalFile() const { return ProgramDirectory() / "BUFFER.JNL"; }
     std::filesystem::path HelpFile() const { return ProgramDirectory() / "VENTRIX.HLP"; }
 };
 

@@ -1,20 +1,15 @@
 #include "Commands.h"
 
-#include "files/RecordTextWriter.h"
-#include "files/SpreadsheetTable.h"
 #include "io/DataDirectoryLock.h"
 #include "io/StandardAppPaths.h"
-#include "io/XlsxSpreadsheet.h"
-#include "link/FrameDecoder.h"
 #include "log/SampleJournal.h"
 #include "log/SampleRecord.h"
 #include "log/SwapFile.h"
 #include "ventrix-cli/CommandLine.h"
+#include "ventrix-cli/DirectoryPaths.h"
+#include "ventrix-cli/RecordOutputs.h"
 
 #include <cstdio>
-#include <fstream>
-#include <iostream>
-#include <memory>
 
 namespace ventrix::cli {
 
@@ -64,66 +59,42 @@ int RunRecover(int argc, char** argv)
     if (!lock.TryLock())
         return args.Fail(lock.RefusalMessage());
 
-    const std::filesystem::path swapFile = directory / "BUFFER.SWP";
+    const DirectoryPaths paths(directory);
     const std::optional<log::SampleJournal::RecoveredLog> log
-        = log::SampleJournal::Recover(swapFile, directory / "BUFFER.JNL");
+        = log::SampleJournal::Recover(paths.SwapFile(), paths.JournalFile());
     if (!log)
         return args.Fail("nothing to recover: no journal BUFFER.JNL in " + directory.string());
 
-    // Each output takes every record, as the program's Save and Export do.
-    const std::array<std::string, 15>& words = link::kSpecialWordTable;
-    std::ofstream textFile;
-    std::unique_ptr<files::RecordTextWriter> writer;
-    if (args.IsSet(QStringLiteral("text"))) {
-        textFile.open(args.Value(QStringLiteral("text")).toStdString(), std::ios::binary | std::ios::trunc);
-        if (!textFile.is_open())
-            return args.Fail("cannot write " + args.Value(QStringLiteral("text")).toStdString());
-        writer = std::make_unique<files::RecordTextWriter>(textFile, words);
-    } else if (!args.IsSet(QStringLiteral("xlsx"))) {
-        writer = std::make_unique<files::RecordTextWriter>(std::cout, words, "\n");
-    }
-    const std::string xlsxPath = args.Value(QStringLiteral("xlsx")).toStdString();
-    bool workbookWritten = false;
-    io::XlsxSpreadsheet workbook([&] { return std::filesystem::path(xlsxPath); },
-        [&](const std::filesystem::path&, bool written) { workbookWritten = written; });
-    files::SpreadsheetTable table(workbook, words);
-    const bool toWorkbook = args.IsSet(QStringLiteral("xlsx"));
-    if (toWorkbook && !(workbook.Create() && table.WriteHeader()))
-        return args.Fail("cannot write " + xlsxPath);
+    std::optional<std::string> textPath;
+    std::optional<std::string> xlsxPath;
+    if (args.IsSet(QStringLiteral("text")))
+        textPath = args.Value(QStringLiteral("text")).toStdString();
+    if (args.IsSet(QStringLiteral("xlsx")))
+        xlsxPath = args.Value(QStringLiteral("xlsx")).toStdString();
+    RecordOutputs outputs(textPath, xlsxPath);
+    if (const auto openError = outputs.Open())
+        return args.Fail("cannot write " + *openError);
 
     std::optional<state::SampleRecord> first;
     state::SampleRecord last {};
     long long count = 0;
-    bool textOk = true;
-    bool tableOk = true;
-    log::SwapFile::ForEachSample(swapFile, log->swapPageCount, log->pageRecords, log->pageFill,
+    log::SwapFile::ForEachSample(paths.SwapFile(), log->swapPageCount, log->pageRecords, log->pageFill,
         [&](const state::SampleRecord& record) {
             if (!first)
                 first = record;
             last = record;
             ++count;
-            textOk = textOk && (!writer || writer->Write(record));
-            tableOk = tableOk && (!toWorkbook || table.Write(record));
-            return textOk || tableOk;
+            outputs.Write(record);
+            return outputs.Writing();
         });
 
     int status = 0;
-    std::cout.flush();
-    if (textFile.is_open()) {
-        textFile.close();
-        textOk = textOk && !textFile.fail();
-    }
-    if (toWorkbook) {
-        workbook.Release();
-        tableOk = tableOk && workbookWritten;
-    }
-    if ((writer && writer->Unformattable()) || table.Unformattable()) {
+    const std::optional<std::string> unwritten = outputs.Close();
+    if (outputs.Unformattable()) {
         std::fprintf(stderr, "ventrix-cli recover: a record cannot be formatted; the output stops there\n");
         status = 1;
-    } else if (!textOk || !tableOk) {
-        const std::string name = !tableOk        ? xlsxPath
-            : args.IsSet(QStringLiteral("text")) ? args.Value(QStringLiteral("text")).toStdString()
-                                                 : std::string("standard output");
+    } else if (!outputs.FailedOutput().empty() || unwritten) {
+        const std::string name = outputs.FailedOutput().empty() ? *unwritten : outputs.FailedOutput();
         std::fprintf(stderr, "ventrix-cli recover: cannot write %s\n", name.c_str());
         status = 1;
     }
