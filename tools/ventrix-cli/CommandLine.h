@@ -31,6 +31,11 @@ public:
 
     bool IsSet(const QString& name) const { return m_parser.isSet(name); }
     QString Value(const QString& name) const { return m_parser.value(name); }
+    // The option's value when it was given.
+    std::optional<std::string> Given(const QString& name) const
+    {
+        return IsSet(name) ? std::optional<std::string>(Value(name).toStdString()) : std::nullopt;
+    }
     QStringList Positionals() const { return m_parser.positionalArguments(); }
 
     // The one-line error: "ventrix-cli COMMAND: message" on standard error; returns 2.

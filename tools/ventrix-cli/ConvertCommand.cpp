@@ -53,12 +53,6 @@ int RunConvert(int argc, char** argv)
     if (positionals.size() > 1)
         return args.Fail("expected one FILE");
     const std::string input = positionals.first().toStdString();
-    std::optional<std::string> textPath;
-    std::optional<std::string> xlsxPath;
-    if (args.IsSet(QStringLiteral("text")))
-        textPath = args.Value(QStringLiteral("text")).toStdString();
-    if (args.IsSet(QStringLiteral("xlsx")))
-        xlsxPath = args.Value(QStringLiteral("xlsx")).toStdString();
 
     std::string bytes;
     std::string error;
@@ -69,7 +63,7 @@ int RunConvert(int argc, char** argv)
             "ventrix-cli convert: warning: %s ends in %zu bytes that are not a whole record; ignored\n",
             input.c_str(), rest);
 
-    RecordOutputs outputs(textPath, xlsxPath);
+    RecordOutputs outputs(args.Given(QStringLiteral("text")), args.Given(QStringLiteral("xlsx")));
     if (const auto openError = outputs.Open())
         return args.Fail("cannot write " + *openError);
 

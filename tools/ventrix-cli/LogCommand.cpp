@@ -107,10 +107,10 @@ int RunLog(int argc, char** argv)
             return args.Fail("--duration must be a time such as 90, 90s, 15m, 2h, 5d or 1h30m, not " + text);
         options.durationSeconds = *seconds;
     }
-    if (args.IsSet(QStringLiteral("text")))
-        options.textFile = args.Value(QStringLiteral("text")).toStdString();
-    if (args.IsSet(QStringLiteral("xlsx")))
-        options.xlsxFile = args.Value(QStringLiteral("xlsx")).toStdString();
+    if (const auto text = args.Given(QStringLiteral("text")))
+        options.textFile = *text;
+    if (const auto xlsx = args.Given(QStringLiteral("xlsx")))
+        options.xlsxFile = *xlsx;
 
     if (args.IsSet(QStringLiteral("dir"))) {
         options.directory = args.Value(QStringLiteral("dir")).toStdString();

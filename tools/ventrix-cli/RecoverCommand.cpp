@@ -65,13 +65,7 @@ int RunRecover(int argc, char** argv)
     if (!log)
         return args.Fail("nothing to recover: no journal BUFFER.JNL in " + directory.string());
 
-    std::optional<std::string> textPath;
-    std::optional<std::string> xlsxPath;
-    if (args.IsSet(QStringLiteral("text")))
-        textPath = args.Value(QStringLiteral("text")).toStdString();
-    if (args.IsSet(QStringLiteral("xlsx")))
-        xlsxPath = args.Value(QStringLiteral("xlsx")).toStdString();
-    RecordOutputs outputs(textPath, xlsxPath);
+    RecordOutputs outputs(args.Given(QStringLiteral("text")), args.Given(QStringLiteral("xlsx")));
     if (const auto openError = outputs.Open())
         return args.Fail("cannot write " + *openError);
 
