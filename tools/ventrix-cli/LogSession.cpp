@@ -102,13 +102,8 @@ void LogSession::AfterSampleTick()
     if (count == m_printed)
         return;
     m_printed = count;
-    // The newest line of the data log window, without its CR LF.
-    const std::string& page = m_state.LogPageText;
-    const std::size_t end = page.size() >= 2 ? page.size() - 2 : 0;
-    const std::size_t previousEnd = end == 0 ? std::string::npos : page.rfind("\r\n", end - 1);
-    const std::size_t begin = previousEnd == std::string::npos ? 0 : previousEnd + 2;
-    std::string line = page.substr(begin, end - begin);
-    line += '\n';
+    // The line the data log window just showed for the sample (its reading is still current).
+    const std::string line = log::SampleLogger::LiveLogLine(m_state) + '\n';
     if (m_progressShown)
         std::fputs("\r\033[K", stderr);
     std::fwrite(line.data(), 1, line.size(), stdout);
