@@ -71,11 +71,6 @@ private:
     std::filesystem::path m_directory;
 };
 
-long long Samples(const state::AppState& s)
-{
-    return s.SwapPageCount * 1000LL + s.PageFill - 1;
-}
-
 double Megabytes(std::uintmax_t bytes)
 {
     return static_cast<double>(bytes) / (1024.0 * 1024.0);
@@ -151,7 +146,7 @@ int main(int argc, char** argv)
         const qint64 now = clockWatch.elapsed();
         if (now - lastProbe > longestGap) {
             longestGap = now - lastProbe;
-            longestStallAt = Samples(state);
+            longestStallAt = state::LoggedSamples(state);
         }
         if (now - lastProbe > 25) {
             ++longStalls;
@@ -162,7 +157,7 @@ int main(int argc, char** argv)
     QTimer progress;
     QObject::connect(&progress, &QTimer::timeout, [&] {
         std::printf("      %6.1f s: %lld samples, %.1f MB resident\n", clockWatch.elapsed() / 1000.0,
-            Samples(state), ResidentKb() / 1024.0);
+            state::LoggedSamples(state), ResidentKb() / 1024.0);
         std::fflush(stdout);
         if (state.IsBufferFull)
             QCoreApplication::quit();
@@ -195,7 +190,7 @@ int main(int argc, char** argv)
     settle.start();
     while (settle.elapsed() < 500)
         QApplication::processEvents();
-    check(Samples(state) == kFullLog, "432,000 samples logged, no more after the log is full");
+    check(state::LoggedSamples(state) == kFullLog, "432,000 samples logged, no more after the log is full");
     check(dialogs.Count(kBufferFull) == 1, "\"Buffer Full!\" shown exactly once");
     check(SizeOf(paths.SwapFile()) == 432u * 8000u, "BUFFER.SWP holds exactly 432 pages");
 
@@ -236,16 +231,16 @@ int main(int argc, char** argv)
 
     // Clear and log again.
     controls.CLEAR_LOG.Click();
-    check(Samples(state) == 0 && !state.IsBufferFull, "the log is empty after clearing");
+    check(state::LoggedSamples(state) == 0 && !state.IsBufferFull, "the log is empty after clearing");
     simulate();
     QElapsedTimer again;
     again.start();
-    while (Samples(state) < 5000 && again.elapsed() < 60000)
+    while (state::LoggedSamples(state) < 5000 && again.elapsed() < 60000)
         QApplication::processEvents();
     services.timers.DEBUG_TIMER.SetEnabled(false);
-    std::printf(
-        "      %lld samples logged after the clear in %.1f s\n", Samples(state), again.elapsed() / 1000.0);
-    check(Samples(state) >= 5000 && state.SwapPageCount >= 5, "logging again after the clear");
+    std::printf("      %lld samples logged after the clear in %.1f s\n", state::LoggedSamples(state),
+        again.elapsed() / 1000.0);
+    check(state::LoggedSamples(state) >= 5000 && state.SwapPageCount >= 5, "logging again after the clear");
 
     std::printf("      total %.1f s, peak resident memory %.1f MB\n", clockWatch.elapsed() / 1000.0,
         PeakResidentKb() / 1024.0);

@@ -56,8 +56,7 @@ MemoryGauge::MemoryGauge(const state::AppState& state, platform::SlideBar& bar)
 
 void MemoryGauge::UpdateMemoryGauge()
 {
-    const long long used
-        = static_cast<long long>(m_state.SwapPageCount) * state::kPageSize + m_state.PageFill - 1;
+    const long long used = state::LoggedSamples(m_state);
     const std::string text = RemainingTimeText(RemainingLogSeconds(used, m_state.SampleIntervalMs));
 
     if (m_state.IsBufferFull) {

@@ -94,4 +94,10 @@ struct AppState {
     std::int16_t SimulatorPhase = 0;
 };
 
+// How many samples the log holds: its full swap pages and the records of the memory page.
+inline long long LoggedSamples(const AppState& s)
+{
+    return static_cast<long long>(s.SwapPageCount) * kPageSize + s.PageFill - 1;
+}
+
 } // namespace ventrix::state

@@ -110,7 +110,7 @@ QString MeterStatus::ActivityText() const
 
 QString MeterStatus::SamplesText() const
 {
-    const long samples = static_cast<long>(m_state.SwapPageCount) * state::kPageSize + m_state.PageFill - 1;
+    const long long samples = state::LoggedSamples(m_state);
     return samples == 1 ? QStringLiteral("1 sample logged")
                         : QStringLiteral("%1 samples logged").arg(samples);
 }

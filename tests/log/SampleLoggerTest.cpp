@@ -17,7 +17,7 @@ struct Logging : ::testing::Test, fakes::AcquiringRig {
         rig.state.HasNewFrame = frame;
         rig.sampleTimer.Fire();
     }
-    long long Samples() const { return rig.state.SwapPageCount * 1000LL + rig.state.PageFill - 1; }
+    long long Samples() const { return state::LoggedSamples(rig.state); }
     int Lines() const
     {
         return static_cast<int>(std::count(

@@ -98,7 +98,7 @@ void LogSession::OnMessage(const std::string& text, platform::MessageButtons but
 
 void LogSession::AfterSampleTick()
 {
-    const long long count = SampleCount();
+    const long long count = state::LoggedSamples(m_state);
     if (count == m_printed)
         return;
     m_printed = count;
@@ -165,16 +165,11 @@ void LogSession::ShowProgress()
     // The time left as the memory bar says it (" 5 Hrs 30 Mins" has a leading blank there).
     std::string left = m_controls.MEMORY_BAR.Caption();
     left.erase(0, left.find_first_not_of(' '));
-    const long long count = SampleCount();
+    const long long count = state::LoggedSamples(m_state);
     std::fprintf(
         stderr, "\r%lld %s logged, %s left\033[K", count, count == 1 ? "sample" : "samples", left.c_str());
     std::fflush(stderr);
     m_progressShown = true;
-}
-
-long long LogSession::SampleCount() const
-{
-    return static_cast<long long>(m_state.SwapPageCount) * state::kPageSize + m_state.PageFill - 1;
 }
 
 } // namespace ventrix::cli

@@ -66,7 +66,6 @@ private:
     bool WriteFiles();
     void Notice(const std::string& text);
     void ShowProgress();
-    long long SampleCount() const;
 
     LogOptions m_options;
     state::AppState m_state;
