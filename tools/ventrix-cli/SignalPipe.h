@@ -20,8 +20,6 @@ public:
     SignalPipe(const SignalPipe&) = delete;
     SignalPipe& operator=(const SignalPipe&) = delete;
 
-    bool IsValid() const { return m_notifier != nullptr; }
-
 private:
     void Drain();
 
